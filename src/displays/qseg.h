@@ -1,0 +1,4 @@
+#pragma once
+// The segment and dot-matrix displays.
+
+#include "displays/qsegment.h"

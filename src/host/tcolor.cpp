@@ -1,0 +1,78 @@
+#include "tcolor.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace {
+
+QColor systemColor(int index)
+{
+    const QPalette pal = qobject_cast<QGuiApplication *>(QCoreApplication::instance())
+                             ? QGuiApplication::palette()
+                             : QPalette(QColor(0xF0, 0xF0, 0xF0));
+    using R = QPalette::ColorRole;
+    const auto active = [&](R role) { return pal.color(QPalette::Active, role); };
+    const auto inactive = [&](R role) { return pal.color(QPalette::Inactive, role); };
+    switch (index) {
+    case 0:  return active(R::Mid);                 // scroll bar
+    case 1:  return active(R::Dark);                // desktop
+    case 2:  return active(R::Highlight);           // active caption
+    case 3:  return inactive(R::Mid);               // inactive caption
+    case 4:  return active(R::Window);              // menu
+    case 5:  return active(R::Base);                // window
+    case 6:  return active(R::Shadow);              // window frame
+    case 7:  return active(R::WindowText);          // menu text
+    case 8:  return active(R::Text);                // window text
+    case 9:  return active(R::HighlightedText);     // caption text
+    case 10: return active(R::Window);              // active border
+    case 11: return inactive(R::Window);            // inactive border
+    case 12: return active(R::Dark);                // MDI work space
+    case 13: return active(R::Highlight);
+    case 14: return active(R::HighlightedText);
+    case 15: return active(R::Button);              // button face
+    case 16: return active(R::Dark);                // button shadow
+    case 17: return pal.color(QPalette::Disabled, R::Text);
+    case 18: return active(R::ButtonText);
+    case 19: return inactive(R::WindowText);        // inactive caption text
+    case 20: return active(R::Light);               // button highlight
+    case 21: return active(R::Shadow);              // 3D dark shadow
+    case 22: return active(R::Midlight);            // 3D light
+    case 23: return active(R::ToolTipText);
+    case 24: return active(R::ToolTipBase);
+    default: return active(R::Window);
+    }
+}
+
+} // namespace
+
+TColor ColorToRGB(TColor color)
+{
+    if (IsSystemColor(color))
+        return QColorToColor(systemColor(int(color & 0xFF)));
+    return color & 0x00FFFFFF;
+}
+
+QRgb ColorToQRgb(TColor color)
+{
+    const TColor c = ColorToRGB(color);
+    return qRgb(GetRValue(c), GetGValue(c), GetBValue(c));
+}
+
+TColor QColorToColor(const QColor &color)
+{
+    return RGB(color.red(), color.green(), color.blue());
+}
+
+int MulDiv(int a, int b, int c)
+{
+    if (c == 0)
+        return -1;
+    const qint64 num = qint64(a) * qint64(b);
+    const bool negative = (num < 0) != (c < 0);
+    const quint64 an = quint64(num < 0 ? -num : num);
+    const quint64 ac = quint64(c < 0 ? -qint64(c) : qint64(c));
+    const quint64 q = (an + ac / 2) / ac;   // half away from zero
+    if (q > quint64(INT_MAX) + (negative ? 1 : 0))
+        return -1;
+    return negative ? int(-qint64(q)) : int(q);
+}

@@ -1,0 +1,242 @@
+#pragma once
+// What every component shares: the design-mode flag, colour and parent
+// colour, mouse events in the platform's terms, and painting into an
+// off-screen image that reaches the screen in one step.
+
+#include "tcanvas.h"
+
+#include <QImage>
+#include <QObject>
+#include <QWidget>
+
+// While one of these lives, components created on this thread know they are
+// being made by the form designer (the Designer plugin opens one around each
+// widget it creates; tests do the same by hand).
+class DesignTimeCreation
+{
+public:
+    DesignTimeCreation();
+    ~DesignTimeCreation();
+    DesignTimeCreation(const DesignTimeCreation &) = delete;
+    DesignTimeCreation &operator=(const DesignTimeCreation &) = delete;
+    static bool Active();
+};
+
+namespace ControlStyles {
+enum : quint32 {
+    csAcceptsControls = 0x1,
+    csCaptureMouse = 0x2,
+    csClickEvents = 0x8,
+    csFramed = 0x10,
+    csSetCaption = 0x20,
+    csOpaque = 0x40,
+    csDoubleClicks = 0x80,
+    csFixedWidth = 0x100,
+    csFixedHeight = 0x200,
+};
+}
+using namespace ControlStyles;
+using TControlStyle = quint32;
+using TCursor = int;
+
+// The Qt cursor for one of the platform's cursor numbers.
+Qt::CursorShape CursorShape(TCursor cursor);
+
+// A non-visual component: owned by its owner, named, tagged.
+class TComponent : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Name READ Name WRITE SetName)
+    Q_PROPERTY(int Tag READ Tag WRITE SetTag)
+
+public:
+    explicit TComponent(QObject *owner = nullptr);
+
+    QString Name() const { return objectName(); }
+    void SetName(const QString &name) { setObjectName(name); }
+    int Tag() const { return FTag; }
+    void SetTag(int tag) { FTag = tag; }
+
+    bool IsDesigning() const { return FDesigning; }
+    virtual void SetDesigning(bool designing) { FDesigning = designing; }
+
+private:
+    int FTag = 0;
+    bool FDesigning = false;
+};
+
+class TControl : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum TMouseButton { mbLeft, mbRight, mbMiddle };
+    Q_ENUM(TMouseButton)
+    enum TShiftFlag { ssShift = 0x1, ssAlt = 0x2, ssCtrl = 0x4, ssLeft = 0x8, ssRight = 0x10,
+                      ssMiddle = 0x20, ssDouble = 0x40 };
+    using TShiftState = int;
+
+    enum TDragMode { dmManual, dmAutomatic };
+    Q_ENUM(TDragMode)
+    enum TDragState { dsDragEnter, dsDragLeave, dsDragMove };
+    Q_ENUM(TDragState)
+
+    explicit TControl(QWidget *parent = nullptr);
+
+    bool IsDesigning() const { return FDesigning; }
+    virtual void SetDesigning(bool designing);
+
+    TControlStyle ControlStyle() const { return FControlStyle; }
+    void SetControlStyle(TControlStyle style);
+
+    // Setting a colour makes the control stop following its parent's.
+    TColor Color() const { return FColor; }
+    virtual void SetColor(TColor color);
+    bool ParentColor() const { return FParentColor; }
+    virtual void SetParentColor(bool parentColor);
+
+    int Left() const { return x(); }
+    int Top() const { return y(); }
+    void SetLeft(int left) { move(left, y()); }
+    void SetTop(int top) { move(x(), top); }
+    void SetBounds(int left, int top, int width, int height) { setGeometry(left, top, width, height); }
+    TRect ClientRect() const { return Rect(0, 0, width(), height()); }
+    TRect BoundsRect() const { return Bounds(x(), y(), width(), height()); }
+
+    // The hint is the tool tip; ShowHint decides whether it pops up, and
+    // with ParentShowHint the parent's ShowHint decides.
+    QString Hint() const { return toolTip(); }
+    void SetHint(const QString &hint) { setToolTip(hint); }
+    bool ShowHint() const;
+    void SetShowHint(bool show);
+    bool ParentShowHint() const { return FParentShowHint; }
+    void SetParentShowHint(bool parentShowHint) { FParentShowHint = parentShowHint; }
+
+    // Cursors by the platform's numbers (crDefault 0, crArrow -2 ... crDrag -12).
+    TCursor Cursor() const { return FCursor; }
+    void SetCursor(TCursor cursor);
+    TCursor DragCursor() const { return FDragCursor; }
+    void SetDragCursor(TCursor cursor) { FDragCursor = cursor; }
+    TDragMode DragMode() const { return FDragMode; }
+    void SetDragMode(TDragMode mode) { FDragMode = mode; }
+    // Starts dragging this control; drop targets are the controls whose
+    // OnDragOver accepts it.
+    void BeginDrag();
+    bool Dragging() const { return FDragging; }
+
+    // The control's own flag: true unless it was hidden explicitly.
+    bool Visible() const { return !(testAttribute(Qt::WA_WState_ExplicitShowHide) && isHidden()); }
+    virtual void SetVisible(bool visible) { setVisible(visible); }
+
+    // Deferred repaint, and repaint at once.
+    void Invalidate() { update(); }
+    void Repaint() { repaint(); }
+    void Refresh() { repaint(); }
+    // Paints what is pending now.
+    void Update();
+    // Asks the parent to repaint the area under this control, erasing it.
+    void InvalidateParentArea();
+
+    // The canvas of the paint under way (null outside painting): OnPaint
+    // handlers draw on it.
+    TCanvas *Canvas() const { return FCanvas; }
+
+    // The control's picture, painted as on screen, over `background` where
+    // the control leaves pixels untouched.
+    QImage RenderImage(QRgb background = 0xFF000000u);
+
+signals:
+    void OnMouseEnter(QObject *Sender);
+    void OnMouseLeave(QObject *Sender);
+    void OnClick(QObject *Sender);
+    void OnDblClick(QObject *Sender);
+    void OnMouseDown(QObject *Sender, TControl::TMouseButton Button, int Shift, int X, int Y);
+    void OnMouseUp(QObject *Sender, TControl::TMouseButton Button, int Shift, int X, int Y);
+    void OnMouseMove(QObject *Sender, int Shift, int X, int Y);
+    void OnDragOver(QObject *Sender, QObject *Source, int X, int Y, TControl::TDragState State, bool &Accept);
+    void OnDragDrop(QObject *Sender, QObject *Source, int X, int Y);
+    void OnEndDrag(QObject *Sender, QObject *Target, int X, int Y);
+
+protected:
+    // Draws the whole picture; called with the off-screen canvas.
+    virtual void Paint(TCanvas &canvas) { Q_UNUSED(canvas); }
+    // True when Paint covers every pixel, so nothing under it need be drawn.
+    virtual bool PaintsOpaque() const { return FControlStyle & csOpaque; }
+    // Re-reads PaintsOpaque after a change of style or transparency.
+    void UpdateOpacity();
+    // Called after Color changed (own or inherited).
+    virtual void ColorChanged() { Invalidate(); }
+
+    void paintEvent(QPaintEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    bool event(QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    bool acceptsDrag(QDropEvent *event, TDragState state);
+    void paintInto(QImage &image);
+    void applyColor(TColor color);
+    void adoptParentColor();
+    void parentColorChanged(TColor color);
+
+    TColor FColor = clBtnFace;
+    bool FParentColor = true;
+    bool FDesigning = false;
+    bool FClicked = false;
+    bool FShowHint = true;
+    bool FParentShowHint = true;
+    bool FDragging = false;
+    TCursor FCursor = 0;
+    TCursor FDragCursor = -12;
+    TDragMode FDragMode = dmManual;
+    TControlStyle FControlStyle = csCaptureMouse | csClickEvents | csDoubleClicks;
+    TCanvas *FCanvas = nullptr;
+    QImage FBuffer;
+};
+
+// A control without focus of its own (labels, cells, lamps).
+class TGraphicControl : public TControl
+{
+    Q_OBJECT
+public:
+    explicit TGraphicControl(QWidget *parent = nullptr);
+};
+
+// A control that can take the keyboard focus.
+class TCustomControl : public TControl
+{
+    Q_OBJECT
+public:
+    explicit TCustomControl(QWidget *parent = nullptr);
+};
+
+// The face a non-visual component shows on a form: a small tile with the
+// component's name in the designer, nothing at all at run time. The face
+// owns the component.
+class TComponentFace : public QWidget
+{
+    Q_OBJECT
+public:
+    TComponentFace(TComponent *component, QWidget *parent = nullptr);
+
+    TComponent *Component() const { return FComponent; }
+    bool IsDesigning() const { return FDesigning; }
+    void SetDesigning(bool designing);
+
+    QSize sizeHint() const override { return QSize(28, 28); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    TComponent *FComponent;
+    bool FDesigning = false;
+};

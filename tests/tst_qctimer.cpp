@@ -1,0 +1,233 @@
+// The threaded timer: when it ticks, where its handler runs, and that it
+// stops cleanly whatever the worker is doing.
+#include "services/std2.h"
+
+#include <QElapsedTimer>
+#include <QtTest>
+
+class tst_QcTimer : public QObject
+{
+    Q_OBJECT
+private slots:
+    void defaults();
+    void ticksOnTheMainThread();
+    void ticksAreAtLeastAnIntervalApart();
+    void noTickWhileAConditionFails_data();
+    void noTickWhileAConditionFails();
+    void connectingOnTimerStartsTicks();
+    void disablingStopsTicks();
+    void handlersNeverOverlap();
+    void destroyWhileTheWorkerWaits();
+    void deleteLaterFromTheHandler();
+    void intervalChangeTakesEffect();
+    void steelTexture();
+    void delayBlocksWithoutEvents();
+    void face();
+};
+
+void tst_QcTimer::defaults()
+{
+    TqcTimer timer;
+    QVERIFY(timer.Enabled());
+    QCOMPARE(timer.Interval(), 1000u);
+    QCOMPARE(timer.Priority(), TqcTimer::tpNormal);
+    QVERIFY(!timer.Ticking());   // no handler yet
+    const QMetaEnum e = QMetaEnum::fromType<TqcTimer::TThreadPriority>();
+    QCOMPARE(e.keyCount(), 7);
+    QCOMPARE(e.valueToKey(0), "tpIdle");
+    QCOMPARE(e.valueToKey(6), "tpTimeCritical");
+    const QMetaObject &mo = TqcTimer::staticMetaObject;
+    QStringList names;
+    for (int i = 0; i < mo.propertyCount(); ++i)
+        names << QString::fromLatin1(mo.property(i).name());
+    QCOMPARE(names, (QStringList{"objectName", "Name", "Tag", "Priority", "Enabled", "Interval"}));
+}
+
+void tst_QcTimer::ticksOnTheMainThread()
+{
+    TqcTimer timer;
+    timer.SetInterval(10);
+    int ticks = 0;
+    connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *sender) {
+        QCOMPARE(sender, &timer);
+        QCOMPARE(QThread::currentThread(), qApp->thread());
+        ++ticks;
+    });
+    QVERIFY(timer.Ticking());
+    QTRY_VERIFY_WITH_TIMEOUT(ticks >= 3, 5000);
+}
+
+void tst_QcTimer::ticksAreAtLeastAnIntervalApart()
+{
+    TqcTimer timer;
+    timer.SetInterval(25);
+    QElapsedTimer clock;
+    QList<qint64> stamps;
+    clock.start();
+    connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *) { stamps << clock.elapsed(); });
+    QTRY_VERIFY_WITH_TIMEOUT(stamps.size() >= 4, 5000);
+    QVERIFY(stamps.first() >= 24);
+    for (int i = 1; i < stamps.size(); ++i)
+        QVERIFY2(stamps[i] - stamps[i - 1] >= 24, qPrintable(QString::number(stamps[i] - stamps[i - 1])));
+}
+
+void tst_QcTimer::noTickWhileAConditionFails_data()
+{
+    QTest::addColumn<uint>("interval");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("handler");
+    QTest::newRow("interval 0") << 0u << true << true;
+    QTest::newRow("disabled") << 5u << false << true;
+    QTest::newRow("no handler") << 5u << true << false;
+}
+
+void tst_QcTimer::noTickWhileAConditionFails()
+{
+    QFETCH(uint, interval);
+    QFETCH(bool, enabled);
+    QFETCH(bool, handler);
+    // A subclass sees every call of Timer, connected or not.
+    struct Probe : TqcTimer {
+        int calls = 0;
+        void Timer() override { ++calls; TqcTimer::Timer(); }
+    } timer;
+    timer.SetInterval(interval);
+    timer.SetEnabled(enabled);
+    if (handler)
+        connect(&timer, &TqcTimer::OnTimer, this, [](QObject *) {});
+    QVERIFY(!timer.Ticking());
+    QTest::qWait(150);
+    QCOMPARE(timer.calls, 0);
+}
+
+void tst_QcTimer::connectingOnTimerStartsTicks()
+{
+    TqcTimer timer;
+    timer.SetInterval(5);
+    QTest::qWait(50);
+    QSignalSpy spy(&timer, &TqcTimer::OnTimer);   // a spy is a connection too
+    QVERIFY(timer.Ticking());
+    QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= 2, 5000);
+}
+
+void tst_QcTimer::disablingStopsTicks()
+{
+    TqcTimer timer;
+    timer.SetInterval(5);
+    int ticks = 0;
+    const auto c = connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *) {
+        if (++ticks == 2)
+            timer.SetEnabled(false);   // from inside the handler
+    });
+    QTRY_COMPARE_WITH_TIMEOUT(ticks, 2, 5000);
+    QTest::qWait(100);
+    QCOMPARE(ticks, 2);
+    timer.SetEnabled(true);
+    QTRY_VERIFY_WITH_TIMEOUT(ticks > 2, 5000);
+    disconnect(c);
+    QVERIFY(!timer.Ticking());
+    const int stopped = ticks;
+    QTest::qWait(100);
+    QCOMPARE(ticks, stopped);
+}
+
+void tst_QcTimer::handlersNeverOverlap()
+{
+    TqcTimer timer;
+    timer.SetInterval(1);
+    int depth = 0, maxDepth = 0, ticks = 0;
+    connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *) {
+        maxDepth = std::max(maxDepth, ++depth);
+        QTest::qWait(20);   // spins the event loop inside the handler
+        --depth;
+        ++ticks;
+    });
+    QTRY_VERIFY_WITH_TIMEOUT(ticks >= 3, 5000);
+    QCOMPARE(maxDepth, 1);
+}
+
+void tst_QcTimer::destroyWhileTheWorkerWaits()
+{
+    // The worker hands a tick over while the main thread is busy and then
+    // waits for it; destroying the timer then must neither hang nor tick.
+    int ticks = 0;
+    auto *timer = new TqcTimer;
+    timer->SetInterval(5);
+    connect(timer, &TqcTimer::OnTimer, this, [&](QObject *) { ++ticks; });
+    QTRY_VERIFY_WITH_TIMEOUT(ticks >= 1, 5000);
+    QThread::msleep(60);   // the next tick is now waiting for the main thread
+    const int before = ticks;
+    delete timer;
+    QTest::qWait(50);
+    QCOMPARE(ticks, before);
+}
+
+void tst_QcTimer::deleteLaterFromTheHandler()
+{
+    QPointer<TqcTimer> timer = new TqcTimer;
+    timer->SetInterval(5);
+    int ticks = 0;
+    connect(timer, &TqcTimer::OnTimer, this, [&](QObject *sender) {
+        ++ticks;
+        sender->deleteLater();
+    });
+    QTRY_VERIFY_WITH_TIMEOUT(timer.isNull(), 5000);
+    QTest::qWait(50);
+    QCOMPARE(ticks, 1);
+}
+
+void tst_QcTimer::intervalChangeTakesEffect()
+{
+    TqcTimer timer;
+    timer.SetInterval(2000);
+    int ticks = 0;
+    connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *) { ++ticks; });
+    // The sleep under way finishes first; later rounds use the new interval.
+    QTest::qWait(20);
+    timer.SetInterval(5);
+    QVERIFY(timer.Ticking());
+    QTRY_VERIFY_WITH_TIMEOUT(ticks >= 3, 10000);
+    timer.SetInterval(0);
+    QVERIFY(!timer.Ticking());
+}
+
+void tst_QcTimer::steelTexture()
+{
+    const QImage &steel = TSteel();
+    QCOMPARE(steel.size(), QSize(8, 8));
+    for (int y = 0; y < 8; ++y)
+        for (int x = 0; x < 8; ++x)
+            QCOMPARE(steel.pixel(x, y), ColorToQRgb((x & 1) && (y & 1) ? clWhite : clSilver));
+    QCOMPARE(&TSteel(), &steel);   // one texture for the whole process
+}
+
+void tst_QcTimer::delayBlocksWithoutEvents()
+{
+    bool delivered = false;
+    QTimer::singleShot(0, this, [&] { delivered = true; });
+    QElapsedTimer clock;
+    clock.start();
+    Delay(30);
+    QVERIFY(clock.elapsed() >= 29);
+    QVERIFY(!delivered);   // nothing was processed meanwhile
+    Delay(0);
+    QTRY_VERIFY(delivered);
+}
+
+void tst_QcTimer::face()
+{
+    QWidget form;
+    auto *face = new TqcTimerFace(&form);
+    form.show();
+    QVERIFY(!face->isVisible());
+    QVERIFY(face->setProperty("Interval", 5u));
+    QCOMPARE(face->Timer()->Interval(), 5u);
+    QVERIFY(!face->Timer()->Ticking());   // nobody listens to the face
+    QSignalSpy spy(face, &TqcTimerFace::OnTimer);
+    QVERIFY(face->Timer()->Ticking());
+    QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= 1, 5000);
+    QCOMPARE(spy.at(0).at(0).value<QObject *>(), face->Timer());
+}
+
+QTEST_MAIN(tst_QcTimer)
+#include "tst_qctimer.moc"

@@ -1,0 +1,411 @@
+// The sixteen-segment cell: its defaults, setter rules, element geometry,
+// character table and picture.
+#include "displays/qseg.h"
+
+#include <QtTest>
+
+namespace {
+
+class CountingSegment : public TqSegment
+{
+public:
+    using TqSegment::TqSegment;
+    int paints = 0;
+protected:
+    void Paint(TCanvas &canvas) override
+    {
+        ++paints;
+        TqSegment::Paint(canvas);
+    }
+};
+
+// A pixel that only element n covers at this size: the middle of its filled
+// interior, or its first corner when the shape is too thin to have one.
+QPoint samplePoint(int element, int size)
+{
+    const auto poly = SegmentElementPolygon(element, size);
+    const Raster::Spans spans = Raster::PolygonSpans(poly.data(), int(poly.size()));
+    if (spans.empty())
+        return ToQPoint(poly.front());
+    const Raster::Span &mid = spans[spans.size() / 2];
+    return QPoint((mid.x0 + mid.x1) / 2, mid.y);
+}
+
+QList<int> litElements(TqSegment &seg)
+{
+    const QImage img = seg.RenderImage();
+    QList<int> lit;
+    for (int n = 1; n <= 16; ++n) {
+        const QRgb p = img.pixel(samplePoint(n, seg.Size()));
+        if (p == ColorToQRgb(seg.LitColor()))
+            lit << n;
+        else if (p != ColorToQRgb(seg.UnLitColor()))
+            return {-n};   // neither colour: the picture is wrong there
+    }
+    return lit;
+}
+
+QList<int> elementsOf(TSegLook look)
+{
+    QList<int> out;
+    for (int n = 0; n < 32; ++n)
+        if (look & (1u << n))
+            out << n;
+    return out;
+}
+
+} // namespace
+
+class tst_QSegment : public QObject
+{
+    Q_OBJECT
+private slots:
+    void defaults();
+    void publishedPropertiesInOrder();
+    void newCellShowsTheDarkPattern();
+    void digitEightLightsItsElements();
+    void characterTable_data();
+    void characterTable();
+    void codesBelowSpaceLightNothing();
+    void punkturAndCharInterplay();
+    void widthAndHeightPickTheSize_data();
+    void widthAndHeightPickTheSize();
+    void sameWidthDoesNothing();
+    void sizeWrapsInEightBits();
+    void elementGeometry();
+    void changeACharLook();
+    void transparentShowsTheParent();
+    void onPaintComesLastAndCanDraw();
+    void unchangedValuesDoNotRepaint();
+    void mouseEvents();
+};
+
+void tst_QSegment::defaults()
+{
+    TqSegment seg;
+    QCOMPARE(seg.width(), 19);
+    QCOMPARE(seg.height(), 29);
+    QCOMPARE(seg.Char(), qChar(' '));
+    QCOMPARE(seg.Color(), clBlack);
+    QCOMPARE(seg.LitColor(), clLime);
+    QCOMPARE(seg.UnLitColor(), TColor(0x002000));
+    QCOMPARE(seg.Punktur(), spNone);
+    QVERIFY(!seg.Transparent());
+    QCOMPARE(seg.Size(), qSegSize(1));
+    QCOMPARE(seg.Look(), TSegLook(0));
+    QVERIFY(seg.Visible());
+    QVERIFY(seg.ControlStyle() & csOpaque);
+    QVERIFY(seg.testAttribute(Qt::WA_OpaquePaintEvent));
+    QCOMPARE(seg.DragCursor(), -12);
+}
+
+void tst_QSegment::publishedPropertiesInOrder()
+{
+    const QMetaObject &mo = TqSegment::staticMetaObject;
+    QStringList names;
+    for (int i = mo.propertyOffset(); i < mo.propertyCount(); ++i)
+        names << QString::fromLatin1(mo.property(i).name());
+    QCOMPARE(names, (QStringList{"Width", "Height", "Hint", "DragCursor", "DragMode", "Char", "Color",
+                                 "LitColor", "ParentColor", "ParentShowHint", "Punktur", "ShowHint",
+                                 "Transparent", "Visible", "UnLitColor", "Size"}));
+    const QMetaEnum e = QMetaEnum::fromType<TqSegment::qSegPunktur>();
+    QCOMPARE(e.keyCount(), 3);
+    QCOMPARE(e.valueToKey(0), "spPunktum");
+    QCOMPARE(e.valueToKey(1), "spColon");
+    QCOMPARE(e.valueToKey(2), "spNone");
+    // Through the meta-object, as a loaded form sets them.
+    TqSegment seg;
+    QVERIFY(seg.setProperty("Char", QChar(u'7')));
+    QVERIFY(seg.setProperty("Punktur", QStringLiteral("spColon")));
+    QVERIFY(seg.setProperty("Size", 2));
+    QCOMPARE(seg.Char(), qChar('7'));
+    QCOMPARE(seg.Punktur(), spColon);
+    QCOMPARE(seg.width(), 38);
+}
+
+void tst_QSegment::newCellShowsTheDarkPattern()
+{
+    TqSegment seg;
+    const QImage img = seg.RenderImage(qRgb(255, 0, 255));
+    QCOMPARE(img.size(), QSize(19, 29));
+    QCOMPARE(img.pixel(0, 0), qRgb(0, 0, 0));
+    QCOMPARE(img.pixel(18, 0), qRgb(0, 0, 0));
+    QCOMPARE(img.pixel(0, 28), qRgb(0, 0, 0));
+    QCOMPARE(litElements(seg), QList<int>());
+    // Every element shows, in the unlit colour, and only those two colours appear.
+    int dark = 0;
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x) {
+            const QRgb p = img.pixel(x, y);
+            QVERIFY(p == qRgb(0, 0, 0) || p == qRgb(0, 0x20, 0));
+            dark += p == qRgb(0, 0x20, 0);
+        }
+    QVERIFY(dark > 60);
+}
+
+void tst_QSegment::digitEightLightsItsElements()
+{
+    for (int size : {1, 3}) {
+        TqSegment seg;
+        seg.SetSize(qSegSize(size));
+        seg.SetChar('8');
+        QCOMPARE(litElements(seg), (QList<int>{1, 2, 4, 5, 6, 7, 9, 10}));
+    }
+}
+
+void tst_QSegment::characterTable_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QList<int>>("elements");
+    QTest::newRow("space") << 32 << QList<int>{};
+    QTest::newRow("ampersand") << 38 << QList<int>{};
+    QTest::newRow("at") << 64 << QList<int>{};
+    QTest::newRow("no-break space") << 160 << QList<int>{};
+    QTest::newRow("slashed zero") << int('0') << QList<int>{1, 2, 4, 7, 9, 10, 12, 13};
+    QTest::newRow("letter O") << int('O') << QList<int>{1, 2, 4, 7, 9, 10};
+    QTest::newRow("o shares O") << int('o') << QList<int>{1, 2, 4, 7, 9, 10};
+    QTest::newRow("seven") << int('7') << QList<int>{1, 2, 4, 9};
+    QTest::newRow("comma") << int(',') << QList<int>{16};
+    QTest::newRow("full stop") << int('.') << QList<int>{16};
+    QTest::newRow("colon") << int(':') << QList<int>{15, 16};
+    QTest::newRow("semicolon") << int(';') << QList<int>{15, 16};
+    QTest::newRow("middle dot") << 0xB7 << QList<int>{15};
+    QTest::newRow("bullet") << 0x95 << QList<int>{15};
+    QTest::newRow("K") << int('K') << QList<int>{2, 5, 7, 12, 14};
+    QTest::newRow("asterisk") << int('*') << QList<int>{3, 5, 6, 8, 11, 12, 13, 14};
+    QTest::newRow("euro") << 0x80 << QList<int>{1, 2, 4, 7, 9, 10};
+    QTest::newRow("A grave") << 0xC0 << QList<int>{1, 2, 4, 5, 6, 7, 9};
+    QTest::newRow("eth") << 0xF0 << QList<int>{5, 6, 7, 9, 10, 11};
+    QTest::newRow("y diaeresis") << 0xFF << QList<int>{8, 11, 12};
+    QTest::newRow("tilde") << int('~') << QList<int>{1};
+}
+
+void tst_QSegment::characterTable()
+{
+    QFETCH(int, code);
+    QFETCH(QList<int>, elements);
+    QCOMPARE(elementsOf(CharLook(qChar(code))), elements);
+    TqSegment seg;
+    seg.SetChar(qChar(code));
+    QCOMPARE(elementsOf(seg.Look()), elements);
+    QCOMPARE(litElements(seg), elements);
+}
+
+void tst_QSegment::codesBelowSpaceLightNothing()
+{
+    TqSegment seg;
+    seg.SetChar('8');
+    seg.SetChar(qChar(7));
+    QCOMPARE(seg.Look(), TSegLook(0));
+    QCOMPARE(CharLook(0), TSegLook(0));
+}
+
+void tst_QSegment::punkturAndCharInterplay()
+{
+    TqSegment seg;
+    seg.SetPunktur(spPunktum);
+    QCOMPARE(elementsOf(seg.Look()), QList<int>{16});
+    // Char replaces the look whole: the point goes, Punktur stays.
+    seg.SetChar('3');
+    QCOMPARE(seg.Punktur(), spPunktum);
+    QVERIFY(!(seg.Look() & SegLook({16})));
+    QCOMPARE(litElements(seg), (QList<int>{1, 4, 5, 6, 9, 10}));
+    // Setting the same Punktur again does nothing...
+    seg.SetPunktur(spPunktum);
+    QVERIFY(!(seg.Look() & SegLook({16})));
+    // ...a change away and back lights it again.
+    seg.SetPunktur(spNone);
+    seg.SetPunktur(spPunktum);
+    QCOMPARE(litElements(seg), (QList<int>{1, 4, 5, 6, 9, 10, 16}));
+
+    seg.SetPunktur(spColon);
+    QCOMPARE(elementsOf(seg.Look() & SegLook({15, 16})), (QList<int>{15, 16}));
+    seg.SetPunktur(spPunktum);
+    QCOMPARE(elementsOf(seg.Look() & SegLook({15, 16})), QList<int>{16});
+    seg.SetPunktur(spNone);
+    QCOMPARE(seg.Look() & SegLook({15, 16}), TSegLook(0));
+
+    // A character's own dots show while Punktur says nothing.
+    seg.SetChar(':');
+    QCOMPARE(seg.Punktur(), spNone);
+    QCOMPARE(elementsOf(seg.Look()), (QList<int>{15, 16}));
+}
+
+void tst_QSegment::widthAndHeightPickTheSize_data()
+{
+    QTest::addColumn<bool>("width");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("size");
+    QTest::newRow("width 100") << true << 100 << 5;
+    QTest::newRow("width 10") << true << 10 << 1;
+    QTest::newRow("width 0") << true << 0 << 1;
+    QTest::newRow("width -50") << true << -50 << 1;
+    QTest::newRow("width 38") << true << 38 << 2;
+    QTest::newRow("height 60") << false << 60 << 2;
+    QTest::newRow("height 28") << false << 28 << 1;
+    QTest::newRow("height 435") << false << 435 << 15;
+    QTest::newRow("beyond 15") << true << 19 * 20 << 20;
+}
+
+void tst_QSegment::widthAndHeightPickTheSize()
+{
+    QFETCH(bool, width);
+    QFETCH(int, value);
+    QFETCH(int, size);
+    TqSegment seg;
+    if (width)
+        seg.SetWidth(value);
+    else
+        seg.SetHeight(value);
+    QCOMPARE(int(seg.Size()), size);
+    QCOMPARE(seg.width(), 19 * size);
+    QCOMPARE(seg.height(), 29 * size);
+}
+
+void tst_QSegment::sameWidthDoesNothing()
+{
+    TqSegment seg;
+    seg.resize(50, 40);   // from outside, as a layout would
+    seg.SetWidth(50);
+    QCOMPARE(seg.Size(), qSegSize(1));
+    QCOMPARE(seg.width(), 50);
+    // The next setter that runs restores the computed extent.
+    seg.SetLitColor(clRed);
+    QCOMPARE(seg.size(), QSize(19, 29));
+}
+
+void tst_QSegment::sizeWrapsInEightBits()
+{
+    TqSegment seg;
+    seg.SetWidth(19 * 256);
+    QCOMPARE(seg.Size(), qSegSize(0));
+    QCOMPARE(seg.size(), QSize(0, 0));
+    seg.SetWidth(19 * 257);
+    QCOMPARE(seg.Size(), qSegSize(1));
+    seg.SetSize(0);
+    QCOMPARE(seg.size(), QSize(0, 0));
+    QVERIFY(!seg.RenderImage().isNull());   // painting a collapsed cell is harmless
+}
+
+void tst_QSegment::elementGeometry()
+{
+    using P = std::vector<TPoint>;
+    QCOMPARE(SegmentElementPolygon(11, 1), (P{{6, 5}, {6, 6}, {5, 6}, {6, 12}, {6, 12}, {7, 12}}));
+    QCOMPARE(SegmentElementPolygon(11, 2), (P{{10, 12}, {10, 10}, {12, 10}, {14, 22}, {14, 26}, {12, 26}}));
+    QCOMPARE(SegmentElementPolygon(1, 3), (P{{6, 6}, {48, 6}, {42, 12}, {12, 12}}));
+    QCOMPARE(SegmentElementPolygon(2, 1), (P{{2, 4}, {4, 6}, {4, 12}, {2, 14}}));
+    QCOMPARE(SegmentElementPolygon(7, 1), (P{{2, 16}, {4, 18}, {4, 24}, {2, 26}}));
+    QCOMPARE(SegmentElementPolygon(5, 2), (P{{5, 30}, {7, 28}, {17, 28}, {17, 32}, {7, 32}}));
+    QCOMPARE(SegmentElementPolygon(6, 2), (P{{19, 28}, {29, 28}, {31, 30}, {29, 32}, {19, 32}}));
+    QCOMPARE(SegmentElementPolygon(14, 2), (P{{26, 48}, {26, 50}, {24, 50}, {22, 38}, {22, 34}, {24, 34}}));
+    QCOMPARE(SegmentElementPolygon(16, 1), (P{{18, 26}, {18, 26}, {18, 28}, {18, 28}}));
+    QCOMPARE(SegmentElementPolygon(16, 4), (P{{66, 104}, {72, 104}, {72, 112}, {66, 112}}));
+    QCOMPARE(SegmentElementPolygon(13, 0).size(), size_t(6));
+    QVERIFY(SegmentElementPolygon(17, 1).empty());
+    // Every element stays inside the cell.
+    for (int size = 1; size <= 4; ++size)
+        for (int n = 1; n <= 16; ++n)
+            for (const TPoint &p : SegmentElementPolygon(n, size)) {
+                QVERIFY(p.X >= 0 && p.X <= 19 * size);
+                QVERIFY(p.Y >= 0 && p.Y <= 29 * size);
+            }
+}
+
+void tst_QSegment::changeACharLook()
+{
+    const TSegLook original = CharLook('A');
+    TqSegment seg;
+    seg.SetChar('A');
+    const QImage before = seg.RenderImage();
+    ChangeACharLook('A', SegLook({1, 10}));
+    QCOMPARE(CharLook('A'), SegLook({1, 10}));
+    QCOMPARE(seg.RenderImage(), before);   // the cell keeps its look
+    seg.SetChar('A');                      // unchanged: ignored
+    QCOMPARE(seg.RenderImage(), before);
+    seg.SetChar('B');
+    seg.SetChar('A');
+    QCOMPARE(litElements(seg), (QList<int>{1, 10}));
+    // Codes below 32 have no entry to change.
+    ChangeACharLook(5, SegLook({1}));
+    QCOMPARE(CharLook(5), TSegLook(0));
+    ChangeACharLook('A', original);
+}
+
+void tst_QSegment::transparentShowsTheParent()
+{
+    QWidget parent;
+    parent.resize(40, 40);
+    parent.setAutoFillBackground(true);
+    QPalette pal;
+    pal.setColor(QPalette::Window, Qt::red);
+    parent.setPalette(pal);
+    auto *seg = new TqSegment(&parent);
+    seg->SetChar('1');
+    QCOMPARE(QColor(parent.grab().toImage().pixel(0, 0)), QColor(Qt::black));
+    seg->SetTransparent(true);
+    QVERIFY(!seg->testAttribute(Qt::WA_OpaquePaintEvent));
+    const QImage shot = parent.grab().toImage();
+    QCOMPARE(QColor(shot.pixel(0, 0)), QColor(Qt::red));
+    QCOMPARE(QColor(shot.pixel(1, 20)), QColor(Qt::red));
+    const QPoint lit = samplePoint(4, 1), dark = samplePoint(1, 1);
+    QCOMPARE(shot.pixel(lit), qRgb(0, 255, 0));
+    QCOMPARE(shot.pixel(dark), qRgb(0, 0x20, 0));
+    // The cell's own picture leaves the background untouched.
+    QCOMPARE(seg->RenderImage(qRgb(1, 2, 3)).pixel(0, 0), qRgb(1, 2, 3));
+}
+
+void tst_QSegment::onPaintComesLastAndCanDraw()
+{
+    TqSegment seg;
+    seg.SetChar('8');
+    int calls = 0;
+    connect(&seg, &TqSegment::OnPaint, this, [&](QObject *sender) {
+        ++calls;
+        QCOMPARE(sender, &seg);
+        QVERIFY(seg.Canvas());
+        seg.Canvas()->SetPixels(9, 3, clRed);   // over the lit top bar
+    });
+    const QImage img = seg.RenderImage();
+    QCOMPARE(calls, 1);
+    QCOMPARE(img.pixel(9, 3), qRgb(255, 0, 0));
+    QVERIFY(!seg.Canvas());
+}
+
+void tst_QSegment::unchangedValuesDoNotRepaint()
+{
+    CountingSegment seg;
+    seg.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&seg));
+    QTRY_VERIFY(seg.paints > 0);
+    QCoreApplication::processEvents();
+    seg.paints = 0;
+    seg.SetChar(' ');
+    seg.SetLitColor(clLime);
+    seg.SetUnLitColor(0x002000);
+    seg.SetPunktur(spNone);
+    seg.SetSize(1);
+    seg.SetTransparent(false);
+    seg.SetWidth(19);
+    QCoreApplication::processEvents();
+    QCOMPARE(seg.paints, 0);
+    // Several changes before the event loop runs make one repaint.
+    seg.SetChar('5');
+    seg.SetLitColor(clRed);
+    QTRY_COMPARE(seg.paints, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(seg.paints, 1);
+}
+
+void tst_QSegment::mouseEvents()
+{
+    TqSegment seg;
+    QSignalSpy clicks(&seg, &TControl::OnClick);
+    QSignalSpy downs(&seg, &TControl::OnMouseDown);
+    QTest::mouseClick(&seg, Qt::LeftButton, Qt::NoModifier, QPoint(4, 9));
+    QCOMPARE(clicks.count(), 1);
+    QCOMPARE(downs.at(0).at(3).toInt(), 4);
+    QCOMPARE(downs.at(0).at(4).toInt(), 9);
+}
+
+QTEST_MAIN(tst_QSegment)
+#include "tst_qsegment.moc"
