@@ -194,6 +194,10 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
         const auto fill = [&](int x0, int x1) {
             x0 = std::max(x0, 0);
             x1 = std::min(x1, w - 1);
+            if (rop == 0xF0 && !source.hatch && !source.bitmap) {
+                std::fill(row + x0, row + x1 + 1, 0xFF000000u | source.color);
+                return;
+            }
             for (int x = x0; x <= x1; ++x) {
                 quint32 p;
                 if (!source.at(x, s.y, p))
@@ -467,13 +471,30 @@ void TCanvas::CopyRect(const TRect &dest, const QImage &source, const TRect &src
     const int dw = dest.Width(), dh = dest.Height(), sw = src.Width(), sh = src.Height();
     if (dw == 0 || dh == 0 || sw == 0 || sh == 0)
         return;
+    const QImage rgb = (source.format() == QImage::Format_RGB32 || source.format() == QImage::Format_ARGB32
+                        || source.format() == QImage::Format_ARGB32_Premultiplied)
+                           ? source
+                           : source.convertToFormat(QImage::Format_RGB32);
     // A negative extent on one side only mirrors the picture.
     const bool flipX = (dw < 0) != (sw < 0), flipY = (dh < 0) != (sh < 0);
     const int adw = std::abs(dw), adh = std::abs(dh), asw = std::abs(sw), ash = std::abs(sh);
     const int dx0 = std::min(dest.Left, dest.Right), dy0 = std::min(dest.Top, dest.Bottom);
     const int sx0 = std::min(src.Left, src.Right), sy0 = std::min(src.Top, src.Bottom);
     const quint8 rop = quint8(CopyMode >> 16);
+    // Only operations whose result depends on the pattern read the brush.
+    const bool usesPattern = ((rop >> 4) & 0x0F) != (rop & 0x0F);
     const Source pattern = Source::brush(Brush);
+
+    // The source column of every destination column, or -1 outside.
+    std::vector<int> columns(size_t(adw), -1);
+    for (int i = 0; i < adw; ++i) {
+        const int x = dx0 + i;
+        int si = int((long long)i * asw / adw);
+        if (flipX) si = asw - 1 - si;
+        const int sx = sx0 + si;
+        if (x >= 0 && x < FImage->width() && sx >= 0 && sx < rgb.width())
+            columns[size_t(i)] = sx;
+    }
     const bool clipped = !FClip.isEmpty();
     for (int j = 0; j < adh; ++j) {
         const int y = dy0 + j;
@@ -482,21 +503,25 @@ void TCanvas::CopyRect(const TRect &dest, const QImage &source, const TRect &src
         int sj = int((long long)j * ash / adh);
         if (flipY) sj = ash - 1 - sj;
         const int sy = sy0 + sj;
-        if (sy < 0 || sy >= source.height())
+        if (sy < 0 || sy >= rgb.height())
             continue;
+        const auto *from = reinterpret_cast<const QRgb *>(rgb.constScanLine(sy));
         auto *row = reinterpret_cast<QRgb *>(FImage->scanLine(y));
         for (int i = 0; i < adw; ++i) {
+            const int sx = columns[size_t(i)];
+            if (sx < 0)
+                continue;
             const int x = dx0 + i;
-            if (x < 0 || x >= FImage->width() || (clipped && !FClip.contains(QPoint(x, y))))
+            if (clipped && !FClip.contains(QPoint(x, y)))
                 continue;
-            int si = int((long long)i * asw / adw);
-            if (flipX) si = asw - 1 - si;
-            const int sx = sx0 + si;
-            if (sx < 0 || sx >= source.width())
+            const quint32 s = from[sx] & kRgbMask;
+            if (rop == 0xCC) {
+                row[x] = 0xFF000000u | s;
                 continue;
+            }
             quint32 p = 0;
-            pattern.at(x, y, p);
-            const quint32 s = source.pixel(sx, sy) & kRgbMask;
+            if (usesPattern)
+                pattern.at(x, y, p);
             row[x] = 0xFF000000u | rop3(rop, p, s, row[x] & kRgbMask);
         }
     }

@@ -1,0 +1,81 @@
+#include "sections.h"
+
+#include "displays/qseg.h"
+#include "services/std2.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+// A row of cells that walks through the character table, one step a tick.
+class CharacterWalk : public QWidget
+{
+public:
+    CharacterWalk(int cells, qSegSize size, QWidget *parent) : QWidget(parent)
+    {
+        for (int i = 0; i < cells; ++i) {
+            auto *cell = new TqSegment(this);
+            cell->SetSize(size);
+            cell->move(i * 19 * size, 0);
+            FCells.push_back(cell);
+        }
+        setFixedSize(cells * 19 * size, 29 * size);
+        FTimer = new TqcTimer(this);
+        FTimer->SetInterval(350);
+        connect(FTimer, &TqcTimer::OnTimer, this, [this](QObject *) { step(); });
+        step();
+    }
+
+private:
+    void step()
+    {
+        for (size_t i = 0; i < FCells.size(); ++i)
+            FCells[i]->SetChar(qChar(33 + (FFirst + int(i)) % (256 - 33)));
+        FFirst = (FFirst + 1) % (256 - 33);
+    }
+
+    std::vector<TqSegment *> FCells;
+    TqcTimer *FTimer;
+    int FFirst = 0;
+};
+
+// A fixed text on single cells, points and colons set through Punktur.
+QWidget *segmentText(const QString &text, const std::vector<qSegPunktur> &points, qSegSize size,
+                     TColor lit, TColor unlit, QWidget *parent)
+{
+    auto *row = new QWidget(parent);
+    for (int i = 0; i < text.size(); ++i) {
+        auto *cell = new TqSegment(row);
+        cell->SetSize(size);
+        cell->SetLitColor(lit);
+        cell->SetUnLitColor(unlit);
+        cell->SetUnicodeChar(text[i]);
+        if (size_t(i) < points.size())
+            cell->SetPunktur(points[size_t(i)]);
+        cell->move(i * 19 * size, 0);
+    }
+    row->setFixedSize(int(text.size()) * 19 * size, 29 * size);
+    return row;
+}
+
+} // namespace
+
+QGroupBox *displaysSection(QWidget *parent)
+{
+    auto *box = new QGroupBox(QStringLiteral("Segment displays"), parent);
+    auto *grid = new QGridLayout(box);
+    int row = 0;
+    const auto add = [&](const QString &caption, QWidget *w) {
+        grid->addWidget(new QLabel(caption, box), row, 0, Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(w, row++, 1, Qt::AlignLeft);
+    };
+    add(QStringLiteral("TqSegment, the character table"), new CharacterWalk(14, 2, box));
+    add(QStringLiteral("Punktur: point and colon"),
+        segmentText(QStringLiteral("12305"), {spNone, spColon, spNone, spPunktum, spNone}, 2,
+                    clYellow, 0x002020, box));
+    add(QStringLiteral("Size 1, red"),
+        segmentText(QStringLiteral("QUOVAR 16"), {}, 1, clRed, 0x000020, box));
+    add(QStringLiteral("Size 3, aqua"), segmentText(QStringLiteral("Hz"), {}, 3, clAqua, 0x202000, box));
+    return box;
+}

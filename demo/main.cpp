@@ -1,0 +1,44 @@
+// The gallery: every component of the library, working. With --screenshot
+// it renders itself off-screen after a short run and writes a PNG.
+
+#include "sections.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <cstdio>
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quovar Collection gallery"));
+
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    QCommandLineOption screenshot(QStringLiteral("screenshot"),
+                                  QStringLiteral("Run briefly, save the window to <file> and quit."),
+                                  QStringLiteral("file"));
+    parser.addOption(screenshot);
+    parser.process(app);
+
+    QWidget window;
+    window.setWindowTitle(QApplication::applicationName());
+    auto *layout = new QVBoxLayout(&window);
+    layout->addWidget(displaysSection(&window));
+    layout->addWidget(servicesSection(&window));
+    layout->addStretch();
+    window.show();
+
+    if (parser.isSet(screenshot)) {
+        const QString path = parser.value(screenshot);
+        QTimer::singleShot(1500, &window, [&] {
+            const bool ok = window.grab().save(path);
+            std::printf("%s %s\n", ok ? "gallery written to" : "could not write", qPrintable(path));
+            app.exit(ok ? 0 : 1);
+        });
+    }
+    return app.exec();
+}

@@ -1,0 +1,7 @@
+#pragma once
+// Each subsystem shows its components in a section of the gallery.
+
+#include <QGroupBox>
+
+QGroupBox *displaysSection(QWidget *parent);
+QGroupBox *servicesSection(QWidget *parent);
