@@ -194,6 +194,8 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
         const auto fill = [&](int x0, int x1) {
             x0 = std::max(x0, 0);
             x1 = std::min(x1, w - 1);
+            if (x0 > x1)
+                return;
             if (rop == 0xF0 && !source.hatch && !source.bitmap) {
                 std::fill(row + x0, row + x1 + 1, 0xFF000000u | source.color);
                 return;
