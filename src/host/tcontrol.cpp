@@ -10,8 +10,6 @@
 #include <QPointer>
 
 namespace {
-thread_local int designTimeDepth = 0;
-
 TControl::TShiftState shiftState(Qt::KeyboardModifiers mods, Qt::MouseButtons buttons)
 {
     TControl::TShiftState s = 0;
@@ -65,12 +63,6 @@ Qt::CursorShape CursorShape(TCursor cursor)
     default: return Qt::ArrowCursor;
     }
 }
-
-DesignTimeCreation::DesignTimeCreation() { ++designTimeDepth; }
-DesignTimeCreation::~DesignTimeCreation() { --designTimeDepth; }
-bool DesignTimeCreation::Active() { return designTimeDepth > 0; }
-
-TComponent::TComponent(QObject *owner) : QObject(owner), FDesigning(DesignTimeCreation::Active()) {}
 
 TControl::TControl(QWidget *parent) : QWidget(parent), FDesigning(DesignTimeCreation::Active())
 {

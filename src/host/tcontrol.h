@@ -4,23 +4,11 @@
 // off-screen image that reaches the screen in one step.
 
 #include "tcanvas.h"
+#include "tcomponent.h"
 
 #include <QImage>
 #include <QObject>
 #include <QWidget>
-
-// While one of these lives, components created on this thread know they are
-// being made by the form designer (the Designer plugin opens one around each
-// widget it creates; tests do the same by hand).
-class DesignTimeCreation
-{
-public:
-    DesignTimeCreation();
-    ~DesignTimeCreation();
-    DesignTimeCreation(const DesignTimeCreation &) = delete;
-    DesignTimeCreation &operator=(const DesignTimeCreation &) = delete;
-    static bool Active();
-};
 
 namespace ControlStyles {
 enum : quint32 {
@@ -41,29 +29,6 @@ using TCursor = int;
 
 // The Qt cursor for one of the platform's cursor numbers.
 Qt::CursorShape CursorShape(TCursor cursor);
-
-// A non-visual component: owned by its owner, named, tagged.
-class TComponent : public QObject
-{
-    Q_OBJECT
-    Q_PROPERTY(QString Name READ Name WRITE SetName)
-    Q_PROPERTY(int Tag READ Tag WRITE SetTag)
-
-public:
-    explicit TComponent(QObject *owner = nullptr);
-
-    QString Name() const { return objectName(); }
-    void SetName(const QString &name) { setObjectName(name); }
-    int Tag() const { return FTag; }
-    void SetTag(int tag) { FTag = tag; }
-
-    bool IsDesigning() const { return FDesigning; }
-    virtual void SetDesigning(bool designing) { FDesigning = designing; }
-
-private:
-    int FTag = 0;
-    bool FDesigning = false;
-};
 
 class TControl : public QWidget
 {

@@ -1,0 +1,207 @@
+#include "tformat.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+constexpr int kMaxDigits = 18;   // what an extended value holds
+
+// The decimal digits of |v| rounded to `significant` digits, with the
+// exponent of the first one: v = 0.d1d2d3... x 10^(exp + 1).
+struct Digits
+{
+    QString digits;
+    int exponent = 0;
+};
+
+Digits decimalDigits(long double v, int significant)
+{
+    char buf[64];
+    std::snprintf(buf, sizeof buf, "%.*Le", significant - 1, std::fabs(v));
+    Digits d;
+    const char *p = buf;
+    for (; *p && *p != 'e'; ++p)
+        if (*p >= '0' && *p <= '9')
+            d.digits += QLatin1Char(*p);
+    if (*p == 'e')
+        d.exponent = std::atoi(p + 1);
+    return d;
+}
+
+QString group(const QString &integer, const QLocale &locale)
+{
+    QString out;
+    const QString sep = locale.groupSeparator();
+    for (int i = 0; i < integer.size(); ++i) {
+        if (i > 0 && (integer.size() - i) % 3 == 0)
+            out += sep;
+        out += integer[i];
+    }
+    return out;
+}
+
+QString scientific(long double v, int precision, const QLocale &locale)
+{
+    const Digits d = decimalDigits(v, precision);
+    QString s = v < 0 ? QStringLiteral("-") : QString();
+    s += d.digits[0];
+    if (precision > 1)
+        s += locale.decimalPoint() + d.digits.mid(1);
+    s += QLatin1Char('E');
+    s += d.exponent < 0 ? QLatin1Char('-') : QLatin1Char('+');
+    s += QString::number(std::abs(d.exponent)).rightJustified(3, QLatin1Char('0'));
+    return s;
+}
+
+QString fixed(long double v, int decimals, bool grouped, const QLocale &locale)
+{
+    if (std::fabs(v) >= 1e18L)   // more integer digits than the value holds
+        return scientific(v, 15, locale);
+    char buf[128];
+    std::snprintf(buf, sizeof buf, "%.*Lf", decimals, std::fabs(v));
+    QString text = QString::fromLatin1(buf);
+    QString integer = text.section(QLatin1Char('.'), 0, 0);
+    const QString fraction = text.section(QLatin1Char('.'), 1);
+    const bool zero = std::all_of(text.begin(), text.end(),
+                                  [](QChar ch) { return ch == QLatin1Char('0') || ch == QLatin1Char('.'); });
+    if (grouped)
+        integer = group(integer, locale);
+    QString s = (v < 0 && !zero) ? QStringLiteral("-") : QString();
+    s += integer;
+    if (decimals > 0)
+        s += locale.decimalPoint() + fraction;
+    return s;
+}
+
+QString general(long double v, int precision, const QLocale &locale)
+{
+    if (v == 0)
+        return QStringLiteral("0");
+    const Digits d = decimalDigits(v, precision);
+    QString digits = d.digits;
+    while (digits.size() > 1 && digits.endsWith(QLatin1Char('0')))
+        digits.chop(1);
+    const QString sign = v < 0 ? QStringLiteral("-") : QString();
+    if (d.exponent + 1 <= precision && std::fabs(v) >= 1e-5L) {
+        QString integer, fraction;
+        if (d.exponent >= 0) {
+            integer = digits.left(d.exponent + 1).leftJustified(d.exponent + 1, QLatin1Char('0'));
+            fraction = digits.mid(d.exponent + 1);
+        } else {
+            integer = QStringLiteral("0");
+            fraction = QString(-d.exponent - 1, QLatin1Char('0')) + digits;
+        }
+        return sign + integer + (fraction.isEmpty() ? QString() : locale.decimalPoint() + fraction);
+    }
+    QString s = sign + digits[0];
+    if (digits.size() > 1)
+        s += locale.decimalPoint() + digits.mid(1);
+    s += QLatin1Char('E');
+    if (d.exponent < 0)
+        s += QLatin1Char('-');
+    return s + QString::number(std::abs(d.exponent));
+}
+
+QString special(long double v)
+{
+    if (std::isnan(v))
+        return QStringLiteral("NAN");
+    return v < 0 ? QStringLiteral("-INF") : QStringLiteral("INF");
+}
+
+} // namespace
+
+bool FormatFloat(const QString &format, long double value, QString &out, const QLocale &locale)
+{
+    QString result;
+    int nextArg = 0;
+    const int n = int(format.size());
+    for (int i = 0; i < n; ++i) {
+        const QChar c = format[i];
+        if (c != QLatin1Char('%')) {
+            result += c;
+            continue;
+        }
+        if (++i >= n)
+            return false;
+        if (format[i] == QLatin1Char('%')) {
+            result += QLatin1Char('%');
+            continue;
+        }
+        // [index:] [-] [width] [.precision] type
+        const auto number = [&](int &value) {
+            if (i < n && format[i] == QLatin1Char('*'))
+                return false;   // would read an integer argument
+            value = -1;
+            while (i < n && format[i].isDigit()) {
+                value = std::max(value, 0) * 10 + format[i].digitValue();
+                if (value > 1000000)
+                    return false;
+                ++i;
+            }
+            return true;
+        };
+        int first;
+        if (!number(first))
+            return false;
+        if (i < n && format[i] == QLatin1Char(':')) {
+            if (first < 0)
+                return false;
+            nextArg = first;
+            ++i;
+            first = -1;
+        }
+        bool left = false;
+        if (first < 0 && i < n && format[i] == QLatin1Char('-')) {
+            left = true;
+            ++i;
+        }
+        int width = first;
+        if (width < 0 && !number(width))
+            return false;
+        int precision = -1;
+        if (i < n && format[i] == QLatin1Char('.')) {
+            ++i;
+            if (!number(precision))
+                return false;
+            precision = std::max(precision, 0);
+        }
+        if (i >= n)
+            return false;
+        if (nextArg != 0)
+            return false;   // there is only one argument
+        ++nextArg;
+        QString text;
+        const char type = format[i].toLower().toLatin1();
+        const bool finite = std::isfinite(value);
+        switch (type) {
+        case 'e':
+            text = finite ? scientific(value, std::clamp(precision < 0 ? 15 : precision, 1, kMaxDigits), locale)
+                          : special(value);
+            break;
+        case 'f':
+        case 'n':
+            text = finite ? fixed(value, std::clamp(precision < 0 ? 2 : precision, 0, kMaxDigits), type == 'n', locale)
+                          : special(value);
+            break;
+        case 'g':
+            text = finite ? general(value, std::clamp(precision < 0 ? 15 : precision, 1, kMaxDigits), locale)
+                          : special(value);
+            break;
+        case 'm':
+            text = finite ? locale.toCurrencyString(double(value), locale.currencySymbol(),
+                                                    std::clamp(precision < 0 ? 2 : precision, 0, kMaxDigits))
+                          : special(value);
+            break;
+        default:
+            return false;   // d, u, x, s, p and anything unknown
+        }
+        if (width > text.size())
+            text = left ? text.leftJustified(width) : text.rightJustified(width);
+        result += text;
+    }
+    out = result;
+    return true;
+}

@@ -1,0 +1,14 @@
+#pragma once
+// The framework's Format for a single floating-point argument: %e, %f, %g,
+// %n and %m with optional index, width, left justification and precision,
+// and %% for a percent sign. The decimal and thousands separators and the
+// currency come from the locale.
+
+#include <QLocale>
+#include <QString>
+
+// False when the format does not fit one floating-point argument (another
+// conversion such as %d or %s, a second conversion, a '*' width, a format
+// that ends inside a specifier); `out` is then left as it was.
+bool FormatFloat(const QString &format, long double value, QString &out,
+                 const QLocale &locale = QLocale());
