@@ -1,6 +1,10 @@
 #include "sections.h"
 
+#include "services/mystd.h"
 #include "services/std2.h"
+
+#include <QLineEdit>
+#include <QMetaEnum>
 
 #include <QElapsedTimer>
 #include <QGridLayout>
@@ -25,5 +29,39 @@ QGroupBox *servicesSection(QWidget *parent)
     QObject::connect(box, &QObject::destroyed, [clock] { delete clock; });
     grid->addWidget(new QLabel(QStringLiteral("TqcTimer, 100 ms"), box), 0, 0, Qt::AlignRight);
     grid->addWidget(ticks, 0, 1);
+
+    // The calculator: type a line, see the value, the result code, where
+    // the parse stopped, and the register stack.
+    auto *calc = new TqCalc(box);
+    calc->SetFormat(QStringLiteral("%g"));
+    auto *line = new QLineEdit(box);
+    line->setPlaceholderText(QStringLiteral("e.g. sqrt(16)+pi, then A*2"));
+    auto *result = new QLabel(box);
+    auto *registers = new QLabel(box);
+    registers->setTextFormat(Qt::PlainText);
+    const auto show = [=] {
+        const QMetaEnum codes = QMetaEnum::fromType<TqCalc::TqCalcResult>();
+        result->setText(QStringLiteral("= %1    %2 at %3")
+                            .arg(calc->Number(), QLatin1String(codes.valueToKey(calc->CalcResult())))
+                            .arg(calc->WhereIsLastError()));
+        QStringList regs;
+        const char *letters = "ABCDFGHIJ";
+        for (int n = 1; n <= TqCalc::RegisterCount; ++n)
+            regs << QStringLiteral("%1=%2").arg(QLatin1Char(letters[n - 1])).arg(calc->GetReg(n));
+        registers->setText(regs.join(QStringLiteral("  ")));
+    };
+    QObject::connect(line, &QLineEdit::returnPressed, box, [=] {
+        calc->SetCalcLine(line->text());
+        show();
+    });
+    for (const char *start : {"2^10", "A/4", "sqrt(A)+pi*2"}) {
+        calc->SetCalcLine(QString::fromLatin1(start));
+        line->setText(QString::fromLatin1(start));
+    }
+    show();
+    grid->addWidget(new QLabel(QStringLiteral("TqCalc (Enter evaluates)"), box), 1, 0, Qt::AlignRight);
+    grid->addWidget(line, 1, 1);
+    grid->addWidget(result, 2, 1);
+    grid->addWidget(registers, 3, 1);
     return box;
 }

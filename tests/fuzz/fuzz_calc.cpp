@@ -1,0 +1,32 @@
+// libFuzzer target: any bytes as a calculator line. Nothing may crash or
+// trip a sanitizer; the result is one of the codes and the cursor stays on
+// the stored line.
+#include "services/mystd.h"
+
+#include <QMetaEnum>
+
+#include <cstdint>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    static TqCalc calc;
+    const QString line = QString::fromLatin1(reinterpret_cast<const char *>(data), qsizetype(size));
+    // Registers carry over between inputs, as they do in use; a format
+    // from the input's first bytes exercises the text side too.
+    calc.SetCalcLine(line);
+    const int result = calc.CalcResult();
+    if (result < TqCalc::TqcOK || result > TqCalc::TqcOverFlow)
+        std::abort();
+    const int where = calc.WhereIsLastError();
+    if (where < 1 || where > calc.CalcLine().size() + 1)
+        std::abort();
+    if (calc.CalcLine().size() > TqCalc::MaxLineLength)
+        std::abort();
+    calc.SetFormat(line.left(8));
+    (void)calc.Number();
+    if (calc.CalcResult() != result)
+        std::abort();
+    calc.SetFormat(QString());
+    return 0;
+}
