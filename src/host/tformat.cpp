@@ -4,6 +4,9 @@
 #include <cmath>
 #include <cstdio>
 
+#include <QRegularExpression>
+#include <QTime>
+
 namespace {
 
 constexpr int kMaxDigits = 18;   // what an extended value holds
@@ -204,4 +207,13 @@ bool FormatFloat(const QString &format, long double value, QString &out, const Q
     }
     out = result;
     return true;
+}
+
+QString TimeToStr(const QTime &time, const QLocale &locale)
+{
+    QString format = locale.timeFormat(QLocale::LongFormat);
+    // Drop the time-zone fields ("t", "tttt" ...) and the spaces around them.
+    static const QRegularExpression zone(QStringLiteral("\\s*\\bt+\\b\\s*"));
+    format.replace(zone, QStringLiteral(" "));
+    return locale.toString(time, format.trimmed());
 }

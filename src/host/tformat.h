@@ -12,3 +12,8 @@
 // that ends inside a specifier); `out` is then left as it was.
 bool FormatFloat(const QString &format, long double value, QString &out,
                  const QLocale &locale = QLocale());
+
+class QTime;
+// The time in the locale's long time format, as a panel shows it: hours,
+// minutes and seconds (and the locale's AM/PM), without any time zone.
+QString TimeToStr(const QTime &time, const QLocale &locale = QLocale());

@@ -1,0 +1,162 @@
+#include "qcelllabel.h"
+
+#include <QResizeEvent>
+
+TqCustomCellLabel::TqCustomCellLabel(QWidget *parent) : TCustomControl(parent)
+{
+    SetControlStyle(ControlStyle() & ~csOpaque);
+    setFocusPolicy(Qt::NoFocus);
+    TControl::SetColor(clBlack);
+}
+
+TqCustomCellLabel::~TqCustomCellLabel()
+{
+    for (TControl *&cell : FCells) {
+        delete cell;
+        cell = nullptr;
+    }
+}
+
+QSize TqCustomCellLabel::ComputedSize() const
+{
+    const QSize cell = CellSize();
+    return QSize(cell.width() * FCount, cell.height());
+}
+
+void TqCustomCellLabel::SetWidth(int value)
+{
+    if (value != width())
+        resize(ComputedSize().width(), height());
+}
+
+void TqCustomCellLabel::SetHeight(int value)
+{
+    if (value != height())
+        resize(width(), ComputedSize().height());
+}
+
+// A size from outside (a layout, the designer) snaps back at once.
+void TqCustomCellLabel::resizeEvent(QResizeEvent *event)
+{
+    TCustomControl::resizeEvent(event);
+    if (event->size() != ComputedSize())
+        resize(ComputedSize());
+}
+
+void TqCustomCellLabel::SetCaption(const QString &caption)
+{
+    FCaption = caption.isEmpty() ? QStringLiteral(" ") : caption;
+    DoCaption();
+}
+
+void TqCustomCellLabel::SetElements(quint8 count)
+{
+    if (count != FCount)
+        SetCount(count);
+}
+
+void TqCustomCellLabel::SetSize(quint8 size)
+{
+    if (size == FSize)
+        return;
+    FSize = size;
+    DoUpdate();
+}
+
+void TqCustomCellLabel::SetCount(quint8 count)
+{
+    FCount = count;
+    // Always rebuilt whole, even for one cell more.
+    for (TControl *&cell : FCells) {
+        delete cell;
+        cell = nullptr;
+    }
+    resize(ComputedSize());
+    const int pitch = CellSize().width();
+    for (int i = 0; i < count; ++i) {
+        TControl *cell = CreateCell(i);
+        cell->move(i * pitch, 0);   // touching, no gap
+        cell->SetColor(Color());
+        cell->SetParentShowHint(true);
+        cell->setVisible(true);
+        routeEvents(cell);
+        FCells[size_t(i)] = cell;
+    }
+    if (count != 0)
+        DoCaption();
+}
+
+void TqCustomCellLabel::routeEvents(TControl *cell)
+{
+    // The coordinates stay the cell's own: a click on the third cell
+    // reports X from 0 to the cell's width.
+    connect(cell, &TControl::OnMouseDown, this, [this](QObject *, TMouseButton b, int shift, int x, int y) {
+        emit OnMouseDown(this, b, shift, x, y);
+    });
+    connect(cell, &TControl::OnMouseUp, this, [this](QObject *, TMouseButton b, int shift, int x, int y) {
+        emit OnMouseUp(this, b, shift, x, y);
+    });
+    connect(cell, &TControl::OnMouseMove, this, [this](QObject *, int shift, int x, int y) {
+        emit OnMouseMove(this, shift, x, y);
+    });
+    connect(cell, &TControl::OnClick, this, [this](QObject *) { emit OnClick(this); });
+    connect(cell, &TControl::OnDblClick, this, [this](QObject *) { emit OnDblClick(this); });
+}
+
+void TqCustomCellLabel::SetLitColor(TColor color)
+{
+    if (color == FLitColor)
+        return;
+    FLitColor = color;
+    for (TControl *cell : FCells)
+        if (cell)
+            ApplyColors(cell);
+}
+
+void TqCustomCellLabel::SetUnLitColor(TColor color)
+{
+    if (color == FUnLitColor)
+        return;
+    FUnLitColor = color;
+    for (TControl *cell : FCells)
+        if (cell)
+            ApplyColors(cell);
+}
+
+void TqCustomCellLabel::SetColor(TColor color)
+{
+    if (color == Color() && !ParentColor())
+        return;
+    TCustomControl::SetColor(color);
+    for (TControl *cell : FCells)
+        if (cell)
+            cell->SetColor(color);
+}
+
+void TqCustomCellLabel::SetParentColor(bool parentColor)
+{
+    if (parentColor == ParentColor())
+        return;
+    TCustomControl::SetParentColor(parentColor);
+    for (TControl *cell : FCells)
+        if (cell)
+            cell->SetParentColor(parentColor);
+}
+
+void TqCustomCellLabel::SetVisible(bool visible)
+{
+    if (visible == Visible())
+        return;
+    TCustomControl::SetVisible(visible);
+    for (TControl *cell : FCells)
+        if (cell)
+            cell->SetVisible(visible);
+}
+
+// The cells cover the label; only a label without cells shows itself, and
+// then it is empty. The background is never erased separately.
+void TqCustomCellLabel::Paint(TCanvas &canvas)
+{
+    canvas.Brush.SetColor(Color());
+    canvas.FillRect(ClientRect());
+}
