@@ -9,7 +9,8 @@
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     std::printf("%-32s %14s %14s %8s\n", "TqSegment repaint", "repaints/s", "CopyRect/s", "ratio");
     for (qSegSize size : {qSegSize(1), qSegSize(5)}) {

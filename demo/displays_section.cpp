@@ -77,5 +77,46 @@ QGroupBox *displaysSection(QWidget *parent)
     add(QStringLiteral("Size 1, red"),
         segmentText(QStringLiteral("QUOVAR 16"), {}, 1, clRed, 0x000020, box));
     add(QStringLiteral("Size 3, aqua"), segmentText(QStringLiteral("Hz"), {}, 3, clAqua, 0x202000, box));
+
+    auto *clock = new TqSegmentClock(box);
+    clock->SetSize(2);
+    clock->SetLitColor(clRed);
+    clock->SetUnLitColor(0x000030);
+    add(QStringLiteral("TqSegmentClock"), clock);
+
+    auto *label = new TqSegmentLabel(box);
+    label->SetElements(12);
+    label->SetCaption(QStringLiteral("-12.50 V:1.5"));
+    add(QStringLiteral("TqSegmentLabel, points and colons fold"), label);
+
+    auto *dotClock = new TqcDotClock(box);
+    dotClock->SetSize(2);
+    dotClock->SetSek(true);
+    dotClock->SetLitColor(clYellow);
+    dotClock->SetUnLitColor(0x002020);
+    add(QStringLiteral("TqcDotClock with seconds"), dotClock);
+
+    auto *dots = new TqcDotLabel(box);
+    dots->SetElements(17);
+    dots->SetCaption(QStringLiteral("Dot matrix 7x9 \u00B0C"));
+    add(QStringLiteral("TqcDotLabel, round dots"), dots);
+
+    auto *square = new TqcDotLabel(box);
+    square->SetElements(10);
+    square->SetSize(3);
+    square->SetStyle(qcdsDot);
+    square->SetLitColor(clAqua);
+    square->SetUnLitColor(0x201000);
+    square->SetCaption(QStringLiteral("f=440.0Hz"));
+    add(QStringLiteral("TqcDotLabel, Size 3, circles"), square);
+
+    auto *rect = new TqcDotLabel(box);
+    rect->SetElements(12);
+    rect->SetStyle(qcdsRect);
+    rect->SetGap(false);
+    rect->SetLitColor(clFuchsia);
+    rect->SetUnLitColor(0x200020);
+    rect->SetCaption(QStringLiteral("abcdefghijkl"));
+    add(QStringLiteral("squares, no gap"), rect);
     return box;
 }

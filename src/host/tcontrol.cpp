@@ -68,6 +68,7 @@ TControl::TControl(QWidget *parent) : QWidget(parent), FDesigning(DesignTimeCrea
 {
     setMouseTracking(true);
     setAcceptDrops(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_NoSystemBackground);
     UpdateOpacity();
     adoptParentColor();
@@ -264,6 +265,12 @@ void TControl::paintEvent(QPaintEvent *)
         FBuffer.fill(Qt::transparent);
     paintInto(FBuffer);
     QPainter(this).drawImage(0, 0, FBuffer);
+}
+
+void TControl::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    updateGeometry();   // a new extent is a new size hint
 }
 
 QImage TControl::RenderImage(QRgb background)

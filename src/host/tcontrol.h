@@ -110,6 +110,10 @@ public:
     // the control leaves pixels untouched.
     QImage RenderImage(QRgb background = 0xFF000000u);
 
+    // A control is as large as it was made: layouts keep that size.
+    QSize sizeHint() const override { return size(); }
+    QSize minimumSizeHint() const override { return size(); }
+
 signals:
     void OnMouseEnter(QObject *Sender);
     void OnMouseLeave(QObject *Sender);
@@ -133,6 +137,7 @@ protected:
     virtual void ColorChanged() { Invalidate(); }
 
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
