@@ -1,7 +1,5 @@
 #include "qdotsegment.h"
 
-#include "host/tcodepage.h"
-
 #include <algorithm>
 
 TDotLook DotLookFromRows(const std::array<quint8, 9> &rows)
@@ -28,51 +26,9 @@ TDotGeometry DotGeometry(int size)
     return g;
 }
 
-TqcDotSegment::TqcDotSegment(QWidget *parent) : TGraphicControl(parent)
+TqcDotSegment::TqcDotSegment(QWidget *parent) : TqCustomCell(QSize(23, 29), parent)
 {
-    SetControlStyle(ControlStyle() | csOpaque);
-    SetColor(clBlack);
     SetSize(1);
-}
-
-void TqcDotSegment::SetWidth(int value)
-{
-    if (value != width())
-        SetSize(qcDotSegSize(std::max(value / 23, 1)));
-}
-
-void TqcDotSegment::SetHeight(int value)
-{
-    if (value != height())
-        SetSize(qcDotSegSize(std::max(value / 29, 1)));
-}
-
-void TqcDotSegment::SetChar(qChar c)
-{
-    if (c == FChar)
-        return;
-    FChar = c;
-    FLook = DotCharLook(c);
-    Invalidate();
-}
-
-QChar TqcDotSegment::UnicodeChar() const { return Win1252ToUnicode(FChar); }
-void TqcDotSegment::SetUnicodeChar(QChar c) { SetChar(UnicodeToWin1252(c)); }
-
-void TqcDotSegment::SetLitColor(TColor color)
-{
-    if (color == FLitColor)
-        return;
-    FLitColor = color;
-    Invalidate();
-}
-
-void TqcDotSegment::SetUnLitColor(TColor color)
-{
-    if (color == FUnLitColor)
-        return;
-    FUnLitColor = color;
-    Invalidate();
 }
 
 void TqcDotSegment::SetGap(bool gap)
@@ -91,51 +47,23 @@ void TqcDotSegment::SetStyle(qcDotStyle style)
     Invalidate();
 }
 
-void TqcDotSegment::SetTransparent(bool transparent)
-{
-    if (transparent == FTransparent)
-        return;
-    FTransparent = transparent;
-    UpdateOpacity();
-    InvalidateParentArea();
-    Update();
-}
-
-void TqcDotSegment::SetSize(qcDotSegSize size)
-{
-    if (size == FSize)
-        return;
-    FSize = size;
-    DoUpdate();
-}
-
 void TqcDotSegment::DoUpdate()
 {
-    FGeometry = DotGeometry(FSize);
+    FGeometry = DotGeometry(Size());
     setGeometry(x(), y(), FGeometry.Width, FGeometry.Height);
     Invalidate();
 }
 
-bool TqcDotSegment::PaintsOpaque() const
-{
-    return TGraphicControl::PaintsOpaque() && !FTransparent;
-}
-
 void TqcDotSegment::Paint(TCanvas &canvas)
 {
-    if (!FTransparent) {
-        canvas.Brush.SetColor(Color());
-        canvas.Brush.SetStyle(bsSolid);
-        canvas.FillRect(ClientRect());
-    }
-    canvas.Brush.SetStyle(bsClear);
-    const int extent = FSize + 2 - (FUseGap ? 1 : 0);
-    const int corner = std::max(FSize / 2, 1);
+    PaintBackground(canvas);
+    const int extent = Size() + 2 - (FUseGap ? 1 : 0);
+    const int corner = std::max(Size() / 2, 1);
     int k = 1;
     // Unlit dots are drawn too, so the whole matrix always shows.
     for (int j = 0; j < 9; ++j) {
         for (int i = 0; i < 7; ++i, ++k) {
-            canvas.Pen.SetColor((FLook & (TDotLook(1) << k)) ? FLitColor : FUnLitColor);
+            canvas.Pen.SetColor((FLook & (TDotLook(1) << k)) ? LitColor() : UnLitColor());
             canvas.Brush.SetColor(canvas.Pen.Color());
             const int x = FGeometry.X[size_t(i)], y = FGeometry.Y[size_t(j)];
             switch (FStyle) {
@@ -145,5 +73,5 @@ void TqcDotSegment::Paint(TCanvas &canvas)
             }
         }
     }
-    emit OnPaint(this);
+    DoOnPaint();
 }

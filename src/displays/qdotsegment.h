@@ -2,7 +2,7 @@
 // One dot-matrix character cell: 7 columns by 9 rows of dots, lit from a
 // process-wide font table, drawn as circles, squares or rounded squares.
 
-#include "displays/qsegment.h"
+#include "displays/qcell.h"
 
 #include <array>
 
@@ -30,7 +30,7 @@ struct TDotGeometry
 };
 TDotGeometry DotGeometry(int size);
 
-class TqcDotSegment : public TGraphicControl
+class TqcDotSegment : public TqCustomCell
 {
     Q_OBJECT
     Q_PROPERTY(int Width READ Width WRITE SetWidth STORED false)
@@ -55,28 +55,11 @@ public:
     enum qcDotStyle { qcdsDot, qcdsRect, qcdsRound };
     Q_ENUM(qcDotStyle)
 
+    // Writing Width or Height picks Size = value div 23 or div 29, the
+    // cell's extent at Size 1 whatever the Size now (a Size 4 cell is 46
+    // wide, and writing 46 gives Size 2).
     explicit TqcDotSegment(QWidget *parent = nullptr);
 
-    // Writing picks Size = value div 23 (width) or div 29 (height), at
-    // least 1: the cell's extent at Size 1, whatever the Size now.
-    int Width() const { return width(); }
-    void SetWidth(int value);
-    int Height() const { return height(); }
-    void SetHeight(int value);
-
-    qChar Char() const { return FChar; }
-    void SetChar(qChar c);
-    QChar UnicodeChar() const;
-    void SetUnicodeChar(QChar c);
-
-    TColor LitColor() const { return FLitColor; }
-    void SetLitColor(TColor color);
-    TColor UnLitColor() const { return FUnLitColor; }
-    void SetUnLitColor(TColor color);
-    bool Transparent() const { return FTransparent; }
-    void SetTransparent(bool transparent);
-    qcDotSegSize Size() const { return FSize; }
-    void SetSize(qcDotSegSize size);
     bool UseGap() const { return FUseGap; }
     void SetGap(bool gap);
     qcDotStyle Style() const { return FStyle; }
@@ -84,22 +67,15 @@ public:
 
     TDotLook Look() const { return FLook; }
 
-signals:
-    void OnPaint(QObject *Sender);
-
 protected:
+    void CharChanged(qChar c) override { FLook = DotCharLook(c); }
+    void LookChanged() override { Invalidate(); }
     // Recomputes the dot positions and the extent, then asks for a repaint.
-    virtual void DoUpdate();
+    void DoUpdate() override;
     void Paint(TCanvas &canvas) override;
-    bool PaintsOpaque() const override;
 
 private:
-    qChar FChar = ' ';
     TDotLook FLook = 0;   // starts dark, whatever Char says
-    TColor FLitColor = clLime;
-    TColor FUnLitColor = 0x002000;
-    bool FTransparent = false;
-    qcDotSegSize FSize = 0;
     bool FUseGap = true;
     qcDotStyle FStyle = qcdsRound;
     TDotGeometry FGeometry;   // only rebuilt when Size changes

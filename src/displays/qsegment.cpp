@@ -1,7 +1,5 @@
 #include "qsegment.h"
 
-#include "host/tcodepage.h"
-
 namespace {
 
 constexpr int kFirstCode = 32;
@@ -295,56 +293,9 @@ std::vector<TPoint> SegmentElementPolygon(int element, int size)
     }
 }
 
-TqSegment::TqSegment(QWidget *parent) : TGraphicControl(parent)
+TqSegment::TqSegment(QWidget *parent) : TqCustomCell(QSize(19, 29), parent)
 {
-    SetControlStyle(ControlStyle() | csOpaque);
-    SetColor(clBlack);
     SetSize(1);
-}
-
-void TqSegment::SetWidth(int value)
-{
-    if (value == width())
-        return;
-    // Stored in 8 bits without an upper clamp: 19 * 256 wraps to 0.
-    SetSize(qSegSize(std::max(value / 19, 1)));
-}
-
-void TqSegment::SetHeight(int value)
-{
-    if (value == height())
-        return;
-    SetSize(qSegSize(std::max(value / 29, 1)));
-}
-
-void TqSegment::SetChar(qChar c)
-{
-    if (c == FChar)
-        return;
-    FChar = c;
-    // The look is replaced whole: dots set by Punktur go, those of the
-    // character's own entry come, and Punktur keeps its value.
-    FLook = CharLook(c);
-    DoUpdate();
-}
-
-QChar TqSegment::UnicodeChar() const { return Win1252ToUnicode(FChar); }
-void TqSegment::SetUnicodeChar(QChar c) { SetChar(UnicodeToWin1252(c)); }
-
-void TqSegment::SetLitColor(TColor color)
-{
-    if (color == FLitColor)
-        return;
-    FLitColor = color;
-    DoUpdate();
-}
-
-void TqSegment::SetUnLitColor(TColor color)
-{
-    if (color == FUnLitColor)
-        return;
-    FUnLitColor = color;
-    DoUpdate();
 }
 
 void TqSegment::SetPunktur(qSegPunktur punktur)
@@ -360,55 +311,25 @@ void TqSegment::SetPunktur(qSegPunktur punktur)
     DoUpdate();
 }
 
-void TqSegment::SetTransparent(bool transparent)
-{
-    if (transparent == FTransparent)
-        return;
-    FTransparent = transparent;
-    UpdateOpacity();
-    InvalidateParentArea();
-    Update();
-}
-
-void TqSegment::SetSize(qSegSize size)
-{
-    if (size == FSize)
-        return;
-    FSize = size;
-    for (int n = 1; n <= SegmentElementCount; ++n)
-        FPolygons[n - 1] = SegmentElementPolygon(n, size);
-    DoUpdate();
-}
-
 void TqSegment::DoUpdate()
 {
-    resize(19 * FSize, 29 * FSize);
+    if (FPolygonSize != Size()) {
+        FPolygonSize = Size();
+        for (int n = 1; n <= SegmentElementCount; ++n)
+            FPolygons[size_t(n - 1)] = SegmentElementPolygon(n, Size());
+    }
+    resize(Extent());
     Invalidate();
-}
-
-void TqSegment::DoOnPaint()
-{
-    emit OnPaint(this);
-}
-
-bool TqSegment::PaintsOpaque() const
-{
-    return TGraphicControl::PaintsOpaque() && !FTransparent;
 }
 
 void TqSegment::Paint(TCanvas &canvas)
 {
-    if (!FTransparent) {
-        canvas.Brush.SetColor(Color());
-        canvas.Brush.SetStyle(bsSolid);
-        canvas.FillRect(ClientRect());
-    }
-    canvas.Brush.SetStyle(bsClear);
+    PaintBackground(canvas);
     // Unlit elements are drawn too, so the whole pattern always shows.
     for (int n = 1; n <= SegmentElementCount; ++n) {
-        canvas.Pen.SetColor((FLook & (TSegLook(1) << n)) ? FLitColor : FUnLitColor);
+        canvas.Pen.SetColor((FLook & (TSegLook(1) << n)) ? LitColor() : UnLitColor());
         canvas.Brush.SetColor(canvas.Pen.Color());
-        canvas.Polygon(FPolygons[n - 1]);
+        canvas.Polygon(FPolygons[size_t(n - 1)]);
     }
     DoOnPaint();
 }

@@ -3,14 +3,13 @@
 // lit from a process-wide character look table. Everything scales with Size:
 // the cell is 19 x Size by 29 x Size pixels.
 
-#include "host/tcontrol.h"
+#include "displays/qcell.h"
 
 #include <array>
 #include <initializer_list>
 #include <vector>
 
 using qSegSize = quint8;   // offered as 1..15; not clamped
-using qChar = quint8;      // a Windows-1252 code, offered as 32..255
 // A set of elements 1..16: bit n stands for element n.
 using TSegLook = quint32;
 
@@ -33,7 +32,7 @@ TSegLook CharLook(qChar code);
 // their look until their character changes away and back.
 void ChangeACharLook(qChar code, TSegLook look);
 
-class TqSegment : public TGraphicControl
+class TqSegment : public TqCustomCell
 {
     Q_OBJECT
     Q_PROPERTY(int Width READ Width WRITE SetWidth STORED false)
@@ -59,55 +58,29 @@ public:
 
     explicit TqSegment(QWidget *parent = nullptr);
 
-    // Reading gives the current extent; writing picks the Size that fits.
-    int Width() const { return width(); }
-    void SetWidth(int value);
-    int Height() const { return height(); }
-    void SetHeight(int value);
-
-    qChar Char() const { return FChar; }
-    void SetChar(qChar c);
-    QChar UnicodeChar() const;
-    void SetUnicodeChar(QChar c);
-
-    TColor LitColor() const { return FLitColor; }
-    void SetLitColor(TColor color);
-    TColor UnLitColor() const { return FUnLitColor; }
-    void SetUnLitColor(TColor color);
-
     qSegPunktur Punktur() const { return FPunktur; }
     void SetPunktur(qSegPunktur punktur);
-
-    bool Transparent() const { return FTransparent; }
-    void SetTransparent(bool transparent);
-
-    qSegSize Size() const { return FSize; }
-    void SetSize(qSegSize size);
 
     // The elements lit now.
     TSegLook Look() const { return FLook; }
 
-signals:
-    void OnPaint(QObject *Sender);
-
 protected:
+    // The look is replaced whole: dots set by Punktur go, those of the
+    // character's own entry come, and Punktur keeps its value.
+    void CharChanged(qChar c) override { FLook = CharLook(c); }
+    // Every setter here resizes as well as repaints.
+    void LookChanged() override { DoUpdate(); }
     // Sets the extent from Size and asks for a repaint.
-    virtual void DoUpdate();
-    virtual void DoOnPaint();
+    void DoUpdate() override;
     void Paint(TCanvas &canvas) override;
-    bool PaintsOpaque() const override;
 
 private:
-    qChar FChar = ' ';
-    TSegLook FLook = 0;             // starts dark, whatever Char says
-    TColor FLitColor = clLime;
-    TColor FUnLitColor = 0x002000;  // a very dark green
+    TSegLook FLook = 0;   // starts dark, whatever Char says
     qSegPunktur FPunktur = spNone;
-    bool FTransparent = false;
-    qSegSize FSize = 0;
     // The element outlines at the current Size, so that painting needs no
     // arithmetic; rebuilt only when Size changes.
     std::array<std::vector<TPoint>, SegmentElementCount> FPolygons;
+    quint8 FPolygonSize = 0xFF;
 };
 
 using qSegPunktur = TqSegment::qSegPunktur;
