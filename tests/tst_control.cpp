@@ -37,7 +37,6 @@ private slots:
     void designTimeCreation();
     void componentFace();
     void offScreenPaintComposesOverParent();
-    void cursorNumbers();
 };
 
 void tst_Control::clickSequence()
@@ -209,17 +208,6 @@ void tst_Control::offScreenPaintComposesOverParent()
     const QImage direct = c->RenderImage(qRgb(0, 255, 0));
     QCOMPARE(QColor(direct.pixel(5, 5)), QColor(Qt::blue));
     QCOMPARE(QColor(direct.pixel(30, 5)), QColor(Qt::green));
-}
-
-void tst_Control::cursorNumbers()
-{
-    HalfControl c;
-    c.SetCursor(-21);
-    QCOMPARE(c.cursor().shape(), Qt::PointingHandCursor);
-    c.SetCursor(0);
-    QCOMPARE(c.Cursor(), 0);
-    QCOMPARE(c.DragCursor(), -12);
-    QCOMPARE(c.DragMode(), TControl::dmManual);
 }
 
 QTEST_MAIN(tst_Control)

@@ -32,7 +32,6 @@ private slots:
     void gapOff();
     void transparent();
     void changeADotCharLook();
-    void unchangedValuesDoNotRepaint();
 };
 
 void tst_QcDotSegment::newCell()
@@ -234,28 +233,6 @@ void tst_QcDotSegment::changeADotCharLook()
     ChangeADotCharLook(10, 2);         // no entry below 32
     QCOMPARE(DotCharLook(10), TDotLook(0));
     ChangeADotCharLook('Z', original);
-}
-
-void tst_QcDotSegment::unchangedValuesDoNotRepaint()
-{
-    struct Counting : TqcDotSegment {
-        int paints = 0;
-        void Paint(TCanvas &c) override { ++paints; TqcDotSegment::Paint(c); }
-    } cell;
-    cell.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&cell));
-    QTRY_VERIFY(cell.paints > 0);
-    QCoreApplication::processEvents();
-    cell.paints = 0;
-    cell.SetChar(' ');
-    cell.SetStyle(qcdsRound);
-    cell.SetGap(true);
-    cell.SetSize(1);
-    cell.SetLitColor(clLime);
-    QCoreApplication::processEvents();
-    QCOMPARE(cell.paints, 0);
-    cell.SetChar('W');
-    QTRY_COMPARE(cell.paints, 1);
 }
 
 QTEST_MAIN(tst_QcDotSegment)
