@@ -11,6 +11,11 @@ TqCustomCellLabel::TqCustomCellLabel(QWidget *parent) : TCustomControl(parent)
 
 TqCustomCellLabel::~TqCustomCellLabel()
 {
+    freeCells();
+}
+
+void TqCustomCellLabel::freeCells()
+{
     for (TControl *&cell : FCells) {
         delete cell;
         cell = nullptr;
@@ -66,11 +71,7 @@ void TqCustomCellLabel::SetSize(quint8 size)
 void TqCustomCellLabel::SetCount(quint8 count)
 {
     FCount = count;
-    // Always rebuilt whole, even for one cell more.
-    for (TControl *&cell : FCells) {
-        delete cell;
-        cell = nullptr;
-    }
+    freeCells();   // always rebuilt whole, even for one cell more
     resize(ComputedSize());
     const int pitch = CellSize().width();
     for (int i = 0; i < count; ++i) {
@@ -108,9 +109,7 @@ void TqCustomCellLabel::SetLitColor(TColor color)
     if (color == FLitColor)
         return;
     FLitColor = color;
-    for (TControl *cell : FCells)
-        if (cell)
-            ApplyColors(cell);
+    ForEachCell([this](TControl *cell) { ApplyColors(cell); });
 }
 
 void TqCustomCellLabel::SetUnLitColor(TColor color)
@@ -118,9 +117,7 @@ void TqCustomCellLabel::SetUnLitColor(TColor color)
     if (color == FUnLitColor)
         return;
     FUnLitColor = color;
-    for (TControl *cell : FCells)
-        if (cell)
-            ApplyColors(cell);
+    ForEachCell([this](TControl *cell) { ApplyColors(cell); });
 }
 
 void TqCustomCellLabel::SetColor(TColor color)
@@ -128,9 +125,7 @@ void TqCustomCellLabel::SetColor(TColor color)
     if (color == Color() && !ParentColor())
         return;
     TCustomControl::SetColor(color);
-    for (TControl *cell : FCells)
-        if (cell)
-            cell->SetColor(color);
+    ForEachCell([color](TControl *cell) { cell->SetColor(color); });
 }
 
 void TqCustomCellLabel::SetParentColor(bool parentColor)
@@ -138,9 +133,7 @@ void TqCustomCellLabel::SetParentColor(bool parentColor)
     if (parentColor == ParentColor())
         return;
     TCustomControl::SetParentColor(parentColor);
-    for (TControl *cell : FCells)
-        if (cell)
-            cell->SetParentColor(parentColor);
+    ForEachCell([parentColor](TControl *cell) { cell->SetParentColor(parentColor); });
 }
 
 void TqCustomCellLabel::SetVisible(bool visible)
@@ -148,9 +141,7 @@ void TqCustomCellLabel::SetVisible(bool visible)
     if (visible == Visible())
         return;
     TCustomControl::SetVisible(visible);
-    for (TControl *cell : FCells)
-        if (cell)
-            cell->SetVisible(visible);
+    ForEachCell([visible](TControl *cell) { cell->SetVisible(visible); });
 }
 
 // The cells cover the label; only a label without cells shows itself, and

@@ -63,6 +63,14 @@ protected:
     // Passes the lit and unlit colours to one cell.
     virtual void ApplyColors(TControl *cell) = 0;
     QSize ComputedSize() const;
+    // Calls f(cell) for every existing cell, left to right.
+    template <class F>
+    void ForEachCell(F f) const
+    {
+        for (TControl *cell : FCells)
+            if (cell)
+                f(cell);
+    }
 
     // The caption is set directly at construction, without DoCaption.
     QString FCaption;
@@ -72,6 +80,7 @@ protected:
 
 private:
     void routeEvents(TControl *cell);
+    void freeCells();
 
     std::array<TControl *, MaxCells> FCells{};
     quint8 FCount = 0;

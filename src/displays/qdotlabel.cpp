@@ -33,8 +33,7 @@ void TqcCustomDotLabel::SetStyle(qcDotStyle style)
     if (style == FStyle)
         return;
     FStyle = style;
-    for (int i = 0; i < NumberOfChars(); ++i)
-        DotCell(i)->SetStyle(style);
+    ForEachCell([style](TControl *cell) { static_cast<TqcDotSegment *>(cell)->SetStyle(style); });
 }
 
 void TqcCustomDotLabel::SetGap(bool gap)
@@ -42,8 +41,7 @@ void TqcCustomDotLabel::SetGap(bool gap)
     if (gap == FUseGap)
         return;
     FUseGap = gap;
-    for (int i = 0; i < NumberOfChars(); ++i)
-        DotCell(i)->SetGap(gap);
+    ForEachCell([gap](TControl *cell) { static_cast<TqcDotSegment *>(cell)->SetGap(gap); });
 }
 
 void TqcCustomDotLabel::DoCaption()
