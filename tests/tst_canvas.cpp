@@ -49,27 +49,11 @@ private slots:
     void colourHelpers();
     void mulDiv_data();
     void mulDiv();
-    void rectangleStopsShortOfRightAndBottom();
-    void clearPenMakesShapesOnePixelSmaller();
-    void clearBrushLeavesInsideAlone();
-    void widePenRing();
-    void ellipseStaysInItsBox();
-    void lineToLeavesLastPointOut();
-    void polylineAndPolygon();
-    void dashedPenLeavesGaps();
-    void arcRunsCounterClockwise();
-    void pieFillsItsSector();
-    void fillAndFrameRect();
     void focusRectIsItsOwnInverse();
-    void patBlt();
-    void penModes();
     void copyModes_data();
     void copyModes();
     void copyRectStretchesAndMirrors();
     void brushBitmapTilesFromOrigin();
-    void hatchLeavesGaps();
-    void regions();
-    void frameRegion();
     void clipRegionLimitsDrawing();
     void pixels();
     void frame3D();
@@ -117,170 +101,6 @@ void tst_Canvas::mulDiv()
     QCOMPARE(MulDiv(a, b, c), result);
 }
 
-void tst_Canvas::rectangleStopsShortOfRightAndBottom()
-{
-    Surface s;
-    s.canvas.Rectangle(2, 2, 8, 6);
-    QCOMPARE(s.ink(), QRect(QPoint(2, 2), QPoint(7, 5)));
-    QCOMPARE(s.at(2, 2), clRed);
-    QCOMPARE(s.at(7, 5), clRed);
-    QCOMPARE(s.at(7, 3), clRed);
-    QCOMPARE(s.at(3, 3), clBlue);
-    QCOMPARE(s.at(6, 4), clBlue);
-    QCOMPARE(s.count(clBlue), 4 * 2);
-    // Corners given the other way round draw the same.
-    Surface t;
-    t.canvas.Rectangle(8, 6, 2, 2);
-    QCOMPARE(t.image, s.image);
-}
-
-void tst_Canvas::clearPenMakesShapesOnePixelSmaller()
-{
-    Surface s;
-    s.canvas.Pen.SetStyle(psClear);
-    s.canvas.Rectangle(2, 2, 8, 6);
-    QCOMPARE(s.ink(), QRect(QPoint(2, 2), QPoint(6, 4)));
-    QCOMPARE(s.count(clRed), 0);
-    Surface e;
-    e.canvas.Pen.SetStyle(psClear);
-    e.canvas.Ellipse(0, 0, 11, 11);
-    QCOMPARE(e.ink(), QRect(0, 0, 10, 10));
-}
-
-void tst_Canvas::clearBrushLeavesInsideAlone()
-{
-    Surface s;
-    s.canvas.Brush.SetStyle(bsClear);
-    s.canvas.Rectangle(2, 2, 8, 6);
-    QCOMPARE(s.at(4, 3), clWhite);
-    QCOMPARE(s.at(2, 3), clRed);
-    // Giving a clear brush a colour makes it solid again.
-    s.canvas.Brush.SetColor(clYellow);
-    QCOMPARE(s.canvas.Brush.Style(), bsSolid);
-    s.canvas.Rectangle(2, 2, 8, 6);
-    QCOMPARE(s.at(4, 3), clYellow);
-}
-
-void tst_Canvas::widePenRing()
-{
-    Surface s;
-    s.canvas.Pen.SetWidth(3);
-    s.canvas.Rectangle(5, 5, 15, 15);
-    // Centred on the outline: one pixel outside, one on, one inside.
-    QCOMPARE(s.ink(), QRect(QPoint(4, 4), QPoint(15, 15)));
-    QCOMPARE(s.at(6, 10), clRed);
-    QCOMPARE(s.at(7, 10), clBlue);
-}
-
-void tst_Canvas::ellipseStaysInItsBox()
-{
-    Surface s;
-    s.canvas.Ellipse(2, 3, 14, 11);
-    QCOMPARE(s.ink(), QRect(QPoint(2, 3), QPoint(13, 10)));
-    QCOMPARE(s.at(2, 3), clWhite);       // corners stay outside
-    QCOMPARE(s.at(8, 7), clBlue);        // centre is filled
-    QCOMPARE(s.at(2, 7), clRed);         // the leftmost column is outline
-    QCOMPARE(s.at(13, 6), clRed);
-}
-
-void tst_Canvas::lineToLeavesLastPointOut()
-{
-    Surface s;
-    s.canvas.MoveTo(1, 1);
-    s.canvas.LineTo(6, 1);
-    QCOMPARE(s.ink(), QRect(QPoint(1, 1), QPoint(5, 1)));
-    QCOMPARE(s.canvas.PenPos(), (TPoint{6, 1}));
-    s.canvas.LineTo(6, 4);   // continues from the pen position: (6,1) now drawn
-    QCOMPARE(s.at(6, 1), clRed);
-    QCOMPARE(s.at(6, 3), clRed);
-    QCOMPARE(s.at(6, 4), clWhite);
-}
-
-void tst_Canvas::polylineAndPolygon()
-{
-    Surface s;
-    const TPoint pts[] = {{2, 2}, {10, 2}, {10, 8}};
-    s.canvas.Polyline(pts, 3);
-    QCOMPARE(s.at(10, 2), clRed);     // inner corner drawn
-    QCOMPARE(s.at(10, 7), clRed);
-    QCOMPARE(s.at(10, 8), clWhite);   // last point left out
-    QCOMPARE(s.count(clBlue), 0);     // a polyline fills nothing
-
-    Surface p;
-    const TPoint square[] = {{2, 2}, {10, 2}, {10, 8}, {2, 8}};
-    p.canvas.Polygon(square, 4);
-    // The closing outline covers every vertex and edge, right and bottom too.
-    QCOMPARE(p.ink(), QRect(QPoint(2, 2), QPoint(10, 8)));
-    QCOMPARE(p.at(10, 8), clRed);
-    QCOMPARE(p.at(5, 5), clBlue);
-    p.canvas.Pen.SetStyle(psClear);
-    p.canvas.Brush.SetColor(clLime);
-    p.canvas.Polygon(square, 4);
-    QCOMPARE(p.at(9, 7), clLime);
-    QCOMPARE(p.at(10, 8), clRed);     // no outline this time
-}
-
-void tst_Canvas::dashedPenLeavesGaps()
-{
-    Surface s(40, 4);
-    s.canvas.Pen.SetStyle(psDash);
-    s.canvas.MoveTo(0, 1);
-    s.canvas.LineTo(40, 1);
-    QCOMPARE(s.at(0, 1), clRed);
-    QCOMPARE(s.at(17, 1), clRed);
-    QCOMPARE(s.at(18, 1), clWhite);
-    QCOMPARE(s.at(23, 1), clWhite);
-    QCOMPARE(s.at(24, 1), clRed);
-}
-
-void tst_Canvas::arcRunsCounterClockwise()
-{
-    // From the ray to the right round to the ray upwards: the upper-right quarter.
-    Surface s(21, 21);
-    s.canvas.Arc(0, 0, 21, 21, 20, 10, 10, 0);
-    QCOMPARE(s.at(20, 10), clRed);
-    QCOMPARE(s.at(10, 0), clRed);
-    QCOMPARE(s.at(0, 10), clWhite);
-    QCOMPARE(s.at(10, 20), clWhite);
-    QVERIFY(s.ink().left() >= 10 && s.ink().bottom() <= 10);
-    QCOMPARE(s.count(clBlue), 0);
-    // The same points the other way round give the other three quarters.
-    Surface t(21, 21);
-    t.canvas.Arc(0, 0, 21, 21, 10, 0, 20, 10);
-    QCOMPARE(t.at(0, 10), clRed);
-    QCOMPARE(t.at(10, 20), clRed);
-    QCOMPARE(t.at(17, 3), clWhite);
-}
-
-void tst_Canvas::pieFillsItsSector()
-{
-    Surface s(21, 21);
-    s.canvas.Pie(0, 0, 21, 21, 20, 10, 10, 0);
-    QCOMPARE(s.at(15, 5), clBlue);    // inside the upper-right quarter
-    QCOMPARE(s.at(5, 15), clWhite);   // lower-left stays empty
-    QCOMPARE(s.at(5, 5), clWhite);
-    QCOMPARE(s.at(10, 10), clRed);    // the two radii meet at the centre
-    QCOMPARE(s.at(15, 10), clRed);    // radius to the right
-    QCOMPARE(s.at(10, 5), clRed);     // radius upwards
-}
-
-void tst_Canvas::fillAndFrameRect()
-{
-    Surface s;
-    s.canvas.FillRect(Rect(1, 1, 4, 3));
-    QCOMPARE(s.ink(), QRect(QPoint(1, 1), QPoint(3, 2)));
-    QCOMPARE(s.count(clBlue), 6);
-    Surface inverted;
-    inverted.canvas.FillRect(Rect(8, 8, 2, 2));
-    inverted.canvas.FrameRect(Rect(8, 8, 2, 2));
-    QCOMPARE(inverted.count(clWhite), 24 * 24);
-    Surface frame;
-    frame.canvas.FrameRect(Rect(2, 2, 7, 6));
-    QCOMPARE(frame.ink(), QRect(QPoint(2, 2), QPoint(6, 5)));
-    QCOMPARE(frame.at(4, 4), clWhite);
-    QCOMPARE(frame.count(clBlue), 2 * 5 + 2 * 2);
-}
-
 void tst_Canvas::focusRectIsItsOwnInverse()
 {
     Surface s;
@@ -292,39 +112,6 @@ void tst_Canvas::focusRectIsItsOwnInverse()
     QCOMPARE(s.ink(), QRect(QPoint(2, 2), QPoint(11, 8)));
     s.canvas.DrawFocusRect(Rect(2, 2, 12, 9));
     QCOMPARE(s.image, before);
-}
-
-void tst_Canvas::patBlt()
-{
-    Surface s;
-    s.canvas.PatBlt(0, 0, 4, 4, PATCOPY);
-    QCOMPARE(s.at(3, 3), clBlue);
-    s.canvas.PatBlt(0, 0, 2, 2, DSTINVERT);
-    QCOMPARE(s.at(1, 1), clYellow);   // blue inverted
-    QCOMPARE(s.at(2, 2), clBlue);
-    s.canvas.PatBlt(0, 0, 1, 1, BLACKNESS);
-    QCOMPARE(s.at(0, 0), clBlack);
-    s.canvas.PatBlt(3, 3, -2, -2, WHITENESS);   // negative extents go left and up
-    QCOMPARE(s.at(1, 1), clWhite);
-    QCOMPARE(s.at(2, 2), clWhite);
-    QCOMPARE(s.at(3, 3), clBlue);
-}
-
-void tst_Canvas::penModes()
-{
-    Surface s;
-    const QImage before = s.image;
-    s.canvas.Pen.SetMode(pmXor);
-    s.canvas.MoveTo(0, 5);
-    s.canvas.LineTo(20, 5);
-    QCOMPARE(s.at(3, 5), TColor(0xFFFF00));   // white xor red
-    s.canvas.MoveTo(0, 5);
-    s.canvas.LineTo(20, 5);
-    QCOMPARE(s.image, before);
-    s.canvas.Pen.SetMode(pmNot);
-    s.canvas.MoveTo(0, 6);
-    s.canvas.LineTo(3, 6);
-    QCOMPARE(s.at(1, 6), clBlack);
 }
 
 void tst_Canvas::copyModes_data()
@@ -389,73 +176,6 @@ void tst_Canvas::brushBitmapTilesFromOrigin()
     s.canvas.Brush.SetBitmap(QImage());
     s.canvas.FillRect(Rect(0, 0, 2, 2));
     QCOMPARE(s.at(1, 1), clBlue);
-}
-
-void tst_Canvas::hatchLeavesGaps()
-{
-    Surface s(16, 16);
-    s.canvas.Brush.SetStyle(bsCross);
-    s.canvas.FillRect(Rect(0, 0, 16, 16));
-    const int blue = s.count(clBlue);
-    QVERIFY(blue > 0 && blue < 16 * 16 / 2);
-    // The pattern repeats every eight pixels.
-    for (int y = 0; y < 8; ++y)
-        for (int x = 0; x < 8; ++x)
-            QCOMPARE(s.at(x, y), s.at(x + 8, y + 8));
-}
-
-void tst_Canvas::regions()
-{
-    const TRegion rect = CreateRectRgn(0, 0, 10, 10);
-    QVERIFY(PtInRegion(rect, 0, 0));
-    QVERIFY(PtInRegion(rect, 9, 9));
-    QVERIFY(!PtInRegion(rect, 10, 5));
-    QVERIFY(!PtInRegion(rect, 5, 10));
-
-    const TRegion ellipse = CreateEllipticRgn(0, 0, 20, 10);
-    QVERIFY(PtInRegion(ellipse, 10, 5));
-    QVERIFY(!PtInRegion(ellipse, 0, 0));
-    QVERIFY(PtInRegion(ellipse, 0, 5));
-    QVERIFY(!PtInRegion(ellipse, 20, 5));
-
-    // Alternate filling leaves the middle of a five-pointed star out.
-    const TPoint star[] = {{50, 0}, {79, 90}, {2, 35}, {97, 35}, {21, 90}};
-    const TRegion starRgn = CreatePolygonRgn(star, 5);
-    QVERIFY(!PtInRegion(starRgn, 50, 50));
-    QVERIFY(PtInRegion(starRgn, 50, 10));
-
-    const TRegion ring = CreatePolyPolygonRgn({{{0, 0}, {10, 0}, {10, 10}, {0, 10}},
-                                               {{3, 3}, {7, 3}, {7, 7}, {3, 7}}});
-    QVERIFY(PtInRegion(ring, 1, 1));
-    QVERIFY(!PtInRegion(ring, 5, 5));
-
-    const TRegion round = CreateRoundRectRgn(0, 0, 20, 20, 8, 8);
-    QVERIFY(!PtInRegion(round, 0, 0));
-    QVERIFY(PtInRegion(round, 10, 0));
-    QVERIFY(!PtInRegion(round, 19, 19));
-
-    Surface s;
-    s.canvas.Brush.SetColor(clLime);
-    PaintRgn(s.canvas, CombineRgn(rect, CreateRectRgn(5, 5, 20, 20), RGN_DIFF));
-    QCOMPARE(s.at(2, 2), clLime);
-    QCOMPARE(s.at(6, 6), clWhite);
-    QCOMPARE(s.at(12, 12), clWhite);
-    QCOMPARE(s.count(clLime), 100 - 25);
-}
-
-void tst_Canvas::frameRegion()
-{
-    Surface s;
-    TBrush brush;
-    brush.SetColor(clMaroon);
-    FrameRgn(s.canvas, CreateRectRgn(2, 2, 12, 12), brush, 2, 1);
-    QCOMPARE(s.at(2, 5), clMaroon);
-    QCOMPARE(s.at(3, 5), clMaroon);   // two wide at the sides
-    QCOMPARE(s.at(4, 5), clWhite);
-    QCOMPARE(s.at(6, 2), clMaroon);   // one high at top and bottom
-    QCOMPARE(s.at(6, 3), clWhite);
-    QCOMPARE(s.at(6, 11), clMaroon);
-    QCOMPARE(s.at(12, 6), clWhite);
 }
 
 void tst_Canvas::clipRegionLimitsDrawing()

@@ -1,51 +1,50 @@
 #include "raster.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 
 namespace Raster {
 
 namespace {
 
-constexpr double kEps = 1e-9;
-constexpr double kTwoPi = 6.283185307179586476925286766559;
-
 // Floor and ceiling of n / d for d > 0, exactly.
 long long floorDiv(long long n, long long d) { return n >= 0 ? n / d : -((-n + d - 1) / d); }
 long long ceilDiv(long long n, long long d) { return -floorDiv(-n, d); }
 
-// Half the extent of an ellipse row (or column) at offset `off` from the centre.
-double halfChord(double radius, double otherRadius, double off)
-{
-    if (otherRadius <= 0)
-        return radius;
-    const double t = off / otherRadius;
-    return radius * std::sqrt(std::max(0.0, 1.0 - t * t));
-}
-
-// Pixels p with |2p - twiceCentre| <= 2 * half + 1: those nearest the chord.
-void chordRange(int twiceCentre, double half, int &lo, int &hi)
-{
-    const double lim = 2.0 * half + 1.0 + kEps;
-    lo = int(std::ceil((twiceCentre - lim) / 2.0));
-    hi = int(std::floor((twiceCentre + lim) / 2.0));
-}
-
 } // namespace
 
-std::vector<TPoint> LinePoints(TPoint a, TPoint b)
+Points LinePoints(TPoint a, TPoint b)
 {
-    std::vector<TPoint> out;
-    int dx = std::abs(b.X - a.X), dy = -std::abs(b.Y - a.Y);
-    const int sx = a.X < b.X ? 1 : -1, sy = a.Y < b.Y ? 1 : -1;
-    int err = dx + dy;
-    int x = a.X, y = a.Y;
-    out.reserve(size_t(std::max(dx, -dy)));
-    while (x != b.X || y != b.Y) {
-        out.push_back({x, y});
-        const int e2 = 2 * err;
-        if (e2 >= dy) { err += dy; x += sx; }
-        if (e2 <= dx) { err += dx; y += sy; }
+    const int dx = b.X - a.X, dy = b.Y - a.Y;
+    // Octants 1..8 counter-clockwise from +x with y downwards; a line on an
+    // octant's boundary belongs to the octant after it.
+    int octant;
+    if (dy > 0)
+        octant = dx > 0 ? (dx > dy ? 1 : 2) : (-dx > dy ? 4 : 3);
+    else
+        octant = dx < 0 ? (-dx > -dy ? 5 : 6) : (dx > -dy ? 8 : 7);
+    const int bias = (octant == 3 || octant == 5 || octant == 6 || octant == 8) ? 1 : 0;
+    const bool xMajor = octant == 1 || octant == 4 || octant == 5 || octant == 8;
+    const int major = xMajor ? std::abs(dx) : std::abs(dy);
+    const int minor = xMajor ? std::abs(dy) : std::abs(dx);
+    const int sx = (octant == 1 || octant == 2 || octant == 7 || octant == 8) ? 1 : -1;
+    const int sy = octant <= 4 ? 1 : -1;
+
+    Points out;
+    out.reserve(size_t(major));
+    TPoint p = a;
+    int err = 2 * minor - major;
+    for (int i = 0; i < major; ++i) {
+        out.push_back(p);
+        const bool stepMinor = err + bias > 0;
+        err += stepMinor ? 2 * minor - 2 * major : 2 * minor;
+        if (xMajor) {
+            p.X += sx;
+            if (stepMinor) p.Y += sy;
+        } else {
+            p.Y += sy;
+            if (stepMinor) p.X += sx;
+        }
     }
     return out;
 }
@@ -121,121 +120,174 @@ Spans PolyPolygonSpans(const std::vector<std::vector<TPoint>> &polygons, bool wi
     return fillEdges(edges, winding);
 }
 
-Spans EllipseSpans(int left, int top, int right, int bottom)
+Spans RectSpans(int left, int top, int right, int bottom)
 {
     Spans out;
-    if (right < left || bottom < top)
+    if (right < left)
         return out;
-    const int cx2 = left + right, cy2 = top + bottom;
-    const double ra = (right - left) / 2.0, rb = (bottom - top) / 2.0;
-    out.reserve(size_t(bottom - top + 1));
-    // Rows give the flat parts of the curve, columns the steep ones; the
-    // union of both keeps the outline closed at any aspect ratio.
-    for (int y = top; y <= bottom; ++y) {
-        Span s{y, 0, 0};
-        chordRange(cx2, halfChord(ra, rb, y - cy2 / 2.0), s.x0, s.x1);
-        out.push_back(s);
-    }
-    for (int x = left; x <= right; ++x) {
-        int y0, y1;
-        chordRange(cy2, halfChord(rb, ra, x - cx2 / 2.0), y0, y1);
-        for (int y = std::max(y0, top); y <= std::min(y1, bottom); ++y) {
-            Span &s = out[size_t(y - top)];
-            s.x0 = std::min(s.x0, x);
-            s.x1 = std::max(s.x1, x);
+    out.reserve(size_t(std::max(0, bottom - top + 1)));
+    for (int y = top; y <= bottom; ++y)
+        out.push_back({y, left, right});
+    return out;
+}
+
+Points EllipseQuadrant(int width, int height)
+{
+    // Midpoint walk after Alois Zingl's ellipse through pixel centres, in
+    // 64-bit integers so large ellipses stay exact.
+    const long long a = width - 1, b = height - 1;
+    const long long asq = 8 * a * a, bsq = 8 * b * b;
+    long long dx = 4 * b * b * (1 - a);
+    long long dy = 4 * a * a * (1 + (b % 2));
+    long long err = dx + dy + a * a * (b % 2);
+    Points out;
+    TPoint p{width - 1, height / 2};
+    while (p.X >= width / 2) {
+        const long long e2 = 2 * err;
+        out.push_back(p);
+        if (e2 >= dx) {
+            --p.X;
+            dx += bsq;
+            err += dx;
         }
-    }
-    for (Span &s : out) {
-        s.x0 = std::max(s.x0, left);
-        s.x1 = std::min(s.x1, right);
+        if (e2 <= dy) {
+            ++p.Y;
+            dy += asq;
+            err += dy;
+        }
     }
     return out;
 }
 
-Spans RoundRectSpans(int left, int top, int right, int bottom, int cornerWidth, int cornerHeight)
+Points RoundRectOutline(const TRect &r, int cornerWidth, int cornerHeight)
 {
+    // The top right corner, walked upwards from its right end...
+    Points pts = EllipseQuadrant(cornerWidth, cornerHeight);
+    for (TPoint &p : pts)
+        p = {r.Right - cornerWidth + p.X, r.Top + cornerHeight - 1 - p.Y};
+    // ...mirrored to the left, then the top half mirrored downwards. Where the
+    // corner is the whole width or height and odd, the middle point is shared.
+    for (int pass = 0; pass < 2; ++pass) {
+        const int count = int(pts.size());
+        const bool horizontal = pass == 0;
+        const int corner = horizontal ? cornerWidth : cornerHeight;
+        const int extent = horizontal ? r.Width() : r.Height();
+        const int end = 2 * count - 1 - ((corner % 2 && corner == extent) ? 1 : 0);
+        pts.resize(size_t(end + 1));
+        for (int i = 0; i < count; ++i) {
+            const TPoint p = pts[size_t(i)];
+            pts[size_t(end - i)] = horizontal ? TPoint{r.Left + r.Right - 1 - p.X, p.Y}
+                                              : TPoint{p.X, r.Top + r.Bottom - 1 - p.Y};
+        }
+    }
+    return pts;
+}
+
+Spans RoundRectRegionSpans(int left, int top, int right, int bottom, int cornerWidth, int cornerHeight)
+{
+    if (left > right) std::swap(left, right);
+    if (top > bottom) std::swap(top, bottom);
+    // The region covers the rectangle one pixel smaller on the right and bottom.
+    --right;
+    --bottom;
+    const int ew = std::min(right - left, std::abs(cornerWidth));
+    const int eh = std::min(bottom - top, std::abs(cornerHeight));
+    if (ew < 2 || eh < 2) {
+        // A plain rectangle; one that shrank past nothing turns round, so a
+        // region made from equal bounds still covers the pixel before them.
+        return RectSpans(std::min(left, right), std::min(top, bottom), std::max(left, right) - 1,
+                         std::max(top, bottom) - 1);
+    }
+
+    // Insets of the corner rows from the middle row outwards, by the same walk
+    // as EllipseQuadrant seen from the other side.
+    std::vector<int> inset(size_t(eh), 0);
+    const long long a = ew - 1, b = eh - 1;
+    const long long asq = 8 * a * a, bsq = 8 * b * b;
+    long long dx = 4 * b * b * (1 - a);
+    long long dy = 4 * a * a * (1 + (b % 2));
+    long long err = dx + dy + a * a * (b % 2);
+    int x = 0, y = eh / 2;
+    while (x <= ew / 2) {
+        const long long e2 = 2 * err;
+        if (e2 >= dx) {
+            ++x;
+            dx += bsq;
+            err += dx;
+        }
+        if (e2 <= dy) {
+            ++y;
+            dy += asq;
+            err += dy;
+            if (y < eh)
+                inset[size_t(y)] = x;
+        }
+    }
     Spans out;
-    if (right < left || bottom < top)
-        return out;
-    const int w = std::clamp(cornerWidth, 0, right - left + 1);
-    const int h = std::clamp(cornerHeight, 0, bottom - top + 1);
-    const Spans corner = (w > 1 && h > 1) ? EllipseSpans(0, 0, w - 1, h - 1) : Spans();
-    const int cornerRows = corner.empty() ? 0 : (h + 1) / 2;
-    for (int y = top; y <= bottom; ++y) {
-        int inset = 0;
-        if (y - top < cornerRows)
-            inset = std::max(inset, corner[size_t(y - top)].x0);
-        if (bottom - y < cornerRows)
-            inset = std::max(inset, corner[size_t(bottom - y)].x0);
-        out.push_back({y, left + inset, right - inset});
-    }
+    out.reserve(size_t(bottom - top));
+    for (int i = 0; i < eh / 2; ++i)
+        out.push_back({top + i, left + inset[size_t(b - i)], right - 1 - inset[size_t(b - i)]});
+    // The middle row of the corner stretches over the straight sides.
+    for (int row = top + eh / 2; row <= bottom - eh + eh / 2; ++row)
+        out.push_back({row, left, right - 1});
+    for (int i = eh / 2 + 1; i < eh; ++i)
+        out.push_back({bottom - eh + i, left + inset[size_t(i)], right - 1 - inset[size_t(i)]});
     return out;
 }
 
-void SplitOutline(const Spans &shape, Spans &outline, Spans &interior)
+namespace {
+
+// Where the ray from the centre through (x, y) (y upwards in the walk's
+// frame) meets the sequence of four mirrored quadrants of `q`.
+int rayIndex(const Points &q, int x, int y)
 {
-    outline.clear();
-    interior.clear();
-    for (size_t i = 0; i < shape.size(); ++i) {
-        const Span &s = shape[i];
-        const bool hasPrev = i > 0 && shape[i - 1].y == s.y - 1;
-        const bool hasNext = i + 1 < shape.size() && shape[i + 1].y == s.y + 1;
-        int in0 = s.x0 + 1, in1 = s.x1 - 1;
-        if (hasPrev && hasNext) {
-            in0 = std::max({in0, shape[i - 1].x0, shape[i + 1].x0});
-            in1 = std::min({in1, shape[i - 1].x1, shape[i + 1].x1});
+    const int count = int(q.size());
+    int i = 0;
+    if (y >= 0) {
+        if (x >= 0) {
+            while (i < count && !((long long)q[size_t(i)].X * y <= (long long)q[size_t(i)].Y * x)) ++i;
+            return i;
         }
-        if (!hasPrev || !hasNext || in0 > in1) {
-            outline.push_back(s);
-            continue;
-        }
-        outline.push_back({s.y, s.x0, in0 - 1});
-        interior.push_back({s.y, in0, in1});
-        outline.push_back({s.y, in1 + 1, s.x1});
+        while (i < count && !((long long)q[size_t(i)].X * y < (long long)q[size_t(i)].Y * -x)) ++i;
+        return 2 * count - i;
     }
+    if (x >= 0) {
+        while (i < count && !((long long)q[size_t(i)].X * -y <= (long long)q[size_t(i)].Y * x)) ++i;
+        return 4 * count - i;
+    }
+    while (i < count && !((long long)q[size_t(i)].X * -y < (long long)q[size_t(i)].Y * -x)) ++i;
+    return 2 * count + i;
 }
 
-Spans Outline(const Spans &shape)
-{
-    Spans outline, interior;
-    SplitOutline(shape, outline, interior);
-    return outline;
-}
+} // namespace
 
-Spans Subtract(const Spans &shape, const Spans &hole)
+Points ArcPoints(const TRect &r, TPoint start, TPoint end)
 {
-    Spans out;
-    size_t h = 0;
-    for (const Span &s : shape) {
-        while (h < hole.size() && hole[h].y < s.y)
-            ++h;
-        if (h >= hole.size() || hole[h].y != s.y || hole[h].x1 < s.x0 || hole[h].x0 > s.x1) {
-            out.push_back(s);
-            continue;
+    const int w = r.Width(), h = r.Height();
+    Points q = EllipseQuadrant(w, h);
+    for (TPoint &p : q)
+        p = {p.X - w / 2, p.Y - h / 2};
+    const int count = int(q.size());
+    if (count == 0)
+        return {};
+    // Counter-clockwise on the screen is clockwise with y turned upwards.
+    const int from = rayIndex(q, start.X, -start.Y);
+    int to = rayIndex(q, end.X, -end.Y);
+    if (to <= from)
+        to += 4 * count;
+    Points out;
+    out.reserve(size_t(to - from));
+    for (int i = from; i < to; ++i) {
+        const int k = i % count;
+        const TPoint a = q[size_t(k)], m = q[size_t(count - 1 - k)];
+        switch ((i / count) % 4) {
+        case 0: out.push_back({r.Left + w / 2 + a.X, r.Bottom - 1 - h / 2 - a.Y}); break;
+        case 1: out.push_back({r.Right - 1 - w / 2 - m.X, r.Bottom - 1 - h / 2 - m.Y}); break;
+        case 2: out.push_back({r.Right - 1 - w / 2 - a.X, r.Top + h / 2 + a.Y}); break;
+        default: out.push_back({r.Left + w / 2 + m.X, r.Top + h / 2 + m.Y}); break;
         }
-        if (hole[h].x0 > s.x0)
-            out.push_back({s.y, s.x0, hole[h].x0 - 1});
-        if (hole[h].x1 < s.x1)
-            out.push_back({s.y, hole[h].x1 + 1, s.x1});
     }
     return out;
-}
-
-double RayAngle(double cx, double cy, double x, double y)
-{
-    double a = std::atan2(cy - y, x - cx);
-    if (a < 0)
-        a += kTwoPi;
-    return a;
-}
-
-bool InSweep(double a, double from, double to)
-{
-    double sweep = std::fmod(to - from + 2 * kTwoPi, kTwoPi);
-    if (sweep < kEps)
-        return true;
-    const double d = std::fmod(a - from + 2 * kTwoPi, kTwoPi);
-    return d <= sweep + kEps;
 }
 
 } // namespace Raster

@@ -1,7 +1,8 @@
 #pragma once
 // The pixel geometry of the drawing primitives, as plain functions: which
-// pixels a line, polygon, ellipse or rounded rectangle covers. The canvas
-// paints these sets; regions are built from them; tests check them directly.
+// pixels a line covers, the traced outline of an ellipse or rounded corner,
+// the rows of a polygon or elliptic region. The canvas strokes and fills
+// these; regions are built from them; tests check them directly.
 
 #include "ttypes.h"
 
@@ -17,9 +18,13 @@ struct Span
     int x1;
 };
 using Spans = std::vector<Span>;
+using Points = std::vector<TPoint>;
 
-// The points of a one-pixel line from a towards b, b itself left out.
-std::vector<TPoint> LinePoints(TPoint a, TPoint b);
+// The pixels of a one-pixel line from a towards b, b itself left out.
+// Bresenham with the error starting at 2 * minor - major; in the octants that
+// run against the axes the minor step waits for a strictly positive error, so
+// a line covers the same pixels whichever way it is drawn.
+Points LinePoints(TPoint a, TPoint b);
 
 // The interior of a polygon: pixel (x, y) is inside when the point (x, y)
 // lies inside the outline, with points on a left or top edge inside and on
@@ -28,31 +33,32 @@ Spans PolygonSpans(const TPoint *points, int count, bool winding = false);
 
 // Several polygons filled as one: a pixel is inside when the crossings of
 // all their edges together say so (even-odd, or winding).
-Spans PolyPolygonSpans(const std::vector<std::vector<TPoint>> &polygons, bool winding = false);
+Spans PolyPolygonSpans(const std::vector<Points> &polygons, bool winding = false);
 
-// An ellipse that touches the pixels left..right and top..bottom (all
-// included): one run a row, symmetric about both axes.
-Spans EllipseSpans(int left, int top, int right, int bottom);
+// Rows top..bottom of the columns left..right (all included).
+Spans RectSpans(int left, int top, int right, int bottom);
 
-// A rectangle left..right, top..bottom (included) whose corners are
-// quarters of an ellipse cornerWidth by cornerHeight pixels.
-Spans RoundRectSpans(int left, int top, int right, int bottom, int cornerWidth, int cornerHeight);
+// One quadrant of an ellipse `width` by `height` pixels, traced by an
+// integer midpoint walk through the pixel centres: from (width - 1, height / 2)
+// to (width / 2, height - 1), each point a king's move from the last.
+Points EllipseQuadrant(int width, int height);
 
-// The pixels of a shape with one run a row that have a neighbour above,
-// below, left or right outside the shape: its one-pixel outline.
-Spans Outline(const Spans &shape);
-// The same outline, and what it encloses.
-void SplitOutline(const Spans &shape, Spans &outline, Spans &interior);
+// The closed outline of a rounded rectangle covering the pixels
+// r.Left..r.Right-1 and r.Top..r.Bottom-1, with corners `cornerWidth` by
+// `cornerHeight` (at least 3, at most the rectangle), counter-clockwise from
+// the top right corner. An ellipse is the rounded rectangle whose corners are
+// the whole rectangle.
+Points RoundRectOutline(const TRect &r, int cornerWidth, int cornerHeight);
 
-// The pixels of `shape` not in `hole` (both with at most one run a row).
-Spans Subtract(const Spans &shape, const Spans &hole);
+// The rows of an elliptic or rounded-rectangle region made from the bounds
+// left, top, right, bottom (exclusive, in any order): the same pixels the
+// outline above and its inside cover for the rectangle one smaller.
+Spans RoundRectRegionSpans(int left, int top, int right, int bottom, int cornerWidth, int cornerHeight);
 
-// Angle of the ray from the centre (cx, cy) through (x, y), counter-clockwise
-// from the positive x axis with y growing downwards, in [0, 2pi).
-double RayAngle(double cx, double cy, double x, double y);
-
-// True when angle a lies on the counter-clockwise sweep from `from` to `to`;
-// equal rays sweep the full circle.
-bool InSweep(double a, double from, double to);
+// The traced points of the ellipse in r (as RoundRectOutline) counter-clockwise
+// from the ray through `start` to the ray through `end`, both given relative
+// to the ellipse centre (r.Left + w / 2, r.Top + h / 2). Equal rays give the
+// whole ellipse.
+Points ArcPoints(const TRect &r, TPoint start, TPoint end);
 
 } // namespace Raster

@@ -52,10 +52,10 @@ const quint8 *hatchPattern(TBrushStyle style)
 {
     // Eight rows of eight columns, bit 7 leftmost.
     static const quint8 horizontal[8] = {0, 0, 0, 0xFF, 0, 0, 0, 0};
-    static const quint8 vertical[8] = {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x10};
+    static const quint8 vertical[8] = {0x08, 0x08, 0x08, 0x08, 0x08, 0x08, 0x08, 0x08};
     static const quint8 fdiag[8] = {0x80, 0x40, 0x20, 0x10, 0x08, 0x04, 0x02, 0x01};
     static const quint8 bdiag[8] = {0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80};
-    static const quint8 cross[8] = {0x10, 0x10, 0x10, 0xFF, 0x10, 0x10, 0x10, 0x10};
+    static const quint8 cross[8] = {0x08, 0x08, 0x08, 0xFF, 0x08, 0x08, 0x08, 0x08};
     static const quint8 diagcross[8] = {0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81};
     switch (style) {
     case bsHorizontal: return horizontal;
@@ -94,16 +94,6 @@ bool dashOn(const std::vector<int> &pattern, int phase)
         phase -= pattern[i];
     }
     return true;
-}
-
-Spans rectSpans(int l, int t, int r, int b)
-{
-    Spans out;
-    if (r < l)
-        return out;
-    for (int y = t; y <= b; ++y)
-        out.push_back({y, l, r});
-    return out;
 }
 
 QRect alignedBox(const QRect &box, int align, QSize size)
@@ -181,12 +171,45 @@ TRect TCanvas::ClipRect() const
 
 quint8 TCanvas::penRop() const { return penModeRop(Pen.Mode()); }
 
+namespace {
+
+// True when the operation's result depends on the pattern.
+bool usesPattern(quint8 rop) { return ((rop >> 4) & 0x0F) != (rop & 0x0F); }
+
+Spans regionSpans(const QRegion &r)
+{
+    Spans spans;
+    for (const QRect &rect : r)
+        for (int y = rect.top(); y <= rect.bottom(); ++y)
+            spans.push_back({y, rect.left(), rect.right()});
+    std::sort(spans.begin(), spans.end(), [](const Span &a, const Span &b) {
+        return a.y != b.y ? a.y < b.y : a.x0 < b.x0;
+    });
+    return spans;
+}
+
+QRegion spansRegion(const Spans &spans)
+{
+    std::vector<QRect> rects;
+    rects.reserve(spans.size());
+    for (const Span &s : spans)
+        if (s.x1 >= s.x0)
+            rects.emplace_back(s.x0, s.y, s.x1 - s.x0 + 1, 1);
+    QRegion r;
+    r.setRects(rects.data(), int(rects.size()));
+    return r;
+}
+
+} // namespace
+
 void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
 {
     if (!FImage || FImage->isNull())
         return;
     const int w = FImage->width(), h = FImage->height();
     const bool clipped = !FClip.isEmpty();
+    // Hatch gaps stay untouched only where the pattern takes part.
+    const bool gaps = usesPattern(rop);
     for (const Span &s : spans) {
         if (s.y < 0 || s.y >= h)
             continue;
@@ -201,8 +224,8 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
                 return;
             }
             for (int x = x0; x <= x1; ++x) {
-                quint32 p;
-                if (!source.at(x, s.y, p))
+                quint32 p = 0;
+                if (!source.at(x, s.y, p) && gaps)
                     continue;
                 row[x] = 0xFF000000u | rop3(rop, p, 0, row[x] & kRgbMask);
             }
@@ -221,48 +244,120 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
 
 void TCanvas::FillSpans(const Spans &spans, const TBrush &brush, TCopyMode rop)
 {
-    if (brush.Style() == bsClear && brush.Bitmap().isNull() && ((rop >> 16) & 0xFF) != 0x55)
+    const quint8 r = quint8(rop >> 16);
+    if (!hasBrush(brush) && usesPattern(r))
         return;
-    plot(spans, Source::brush(brush), quint8(rop >> 16));
+    plot(spans, Source::brush(brush), r);
 }
 
-void TCanvas::penPixels(const std::vector<TPoint> &points, bool dashed)
+void TCanvas::FillRegion(const QRegion &region, const TBrush &brush)
 {
-    if (Pen.Style() == psClear)
-        return;
-    const Source pen = Source::solid(Pen.Color());
-    const std::vector<int> &pattern = dashPattern(Pen.Style());
+    FillSpans(regionSpans(region), brush, quint32(penRop()) << 16);
+}
+
+bool TCanvas::hasBrush(const TBrush &brush) { return brush.Style() != bsClear || !brush.Bitmap().isNull(); }
+
+int TCanvas::penWidth() const { return Pen.Style() == psClear ? 0 : Pen.Width(); }
+
+bool TCanvas::widePen() const { return Pen.Style() != psClear && Pen.Width() > 1; }
+
+// A wide pen is a brush stroke: each segment a band Width pixels across,
+// with a round blob (the pen's tip) at every end and joint. The whole outline
+// is one region, so raster operations touch each pixel once.
+QRegion TCanvas::wideOutline(const Raster::Points &points, bool close) const
+{
+    Raster::Points pts = points;
+    while (pts.size() > 2 && pts[0] == pts[1])
+        pts.erase(pts.begin());
+    while (pts.size() > 2 && pts[pts.size() - 1] == pts[pts.size() - 2])
+        pts.pop_back();
     const int w = Pen.Width();
-    Spans spans;
-    for (const TPoint &p : points) {
-        const bool on = !dashed || pattern.empty() || w > 1 || dashOn(pattern, FDashPhase);
-        ++FDashPhase;
-        if (!on)
+    const QRegion tip = spansRegion(Raster::RoundRectRegionSpans(
+        -(w / 2), -(w / 2), (w + 1) / 2 + 1, (w + 1) / 2 + 1, w + 1, w + 1));
+    QRegion out;
+    const size_t n = pts.size();
+    const size_t segments = close ? n : n - 1;
+    for (size_t i = 0; i < n; ++i)
+        out += tip.translated(pts[i].X, pts[i].Y);
+    for (size_t i = 0; i < segments; ++i) {
+        const TPoint p = pts[i], q = pts[(i + 1) % n];
+        const int dx = q.X - p.X, dy = q.Y - p.Y;
+        if (dx == 0 && dy == 0)
             continue;
-        if (w <= 1) {
-            spans.push_back({p.Y, p.X, p.X});
+        if (dy == 0) {
+            out += QRect(std::min(p.X, q.X), p.Y - w / 2, std::abs(dx), w);
+        } else if (dx == 0) {
+            out += QRect(p.X - w / 2, std::min(p.Y, q.Y), w, std::abs(dy));
         } else {
-            const int a = (w - 1) / 2, c = w / 2;
-            const Spans dot = Raster::EllipseSpans(p.X - a, p.Y - a, p.X + c, p.Y + c);
-            spans.insert(spans.end(), dot.begin(), dot.end());
+            // A parallelogram across the line, its half widths rounded so
+            // that odd widths are centred and even ones lean up and left.
+            const double len = std::hypot(double(dx), double(dy));
+            const double wx = w * std::abs(dy) / len, wy = w * std::abs(dx) / len;
+            TPoint narrow{int(std::floor(wx / 2 + 0.5)), int(std::floor(wy / 2 + 0.5))};
+            TPoint wide{int(std::floor((wx + 1) / 2 + 0.5)), int(std::floor((wy + 1) / 2 + 0.5))};
+            if (dx < 0) {
+                wide.Y = -wide.Y;
+                narrow.Y = -narrow.Y;
+            }
+            if (dy < 0) {
+                std::swap(narrow, wide);
+                narrow.X = -narrow.X;
+                wide.X = -wide.X;
+            }
+            const TPoint band[4] = {{p.X - narrow.X, p.Y + narrow.Y}, {p.X + wide.X, p.Y - wide.Y},
+                                    {q.X + wide.X, q.Y - wide.Y}, {q.X - narrow.X, q.Y + narrow.Y}};
+            out += spansRegion(Raster::PolygonSpans(band, 4));
         }
     }
-    plot(spans, pen, penRop());
+    return out;
 }
 
-void TCanvas::strokeLine(TPoint a, TPoint b, bool withEnd)
+// A one-pixel pen: each segment from its start up to (not including) its
+// end; dashes run on along the whole path from where the call began.
+void TCanvas::thinLines(const Raster::Points &pts, bool close)
 {
-    std::vector<TPoint> pts = Raster::LinePoints(a, b);
-    // A wide pen is a brush stroke with round ends: its end is always drawn.
-    if (withEnd || Pen.Width() > 1)
-        pts.push_back(b);
-    penPixels(pts, true);
+    if (Pen.Style() == psClear || pts.size() < 2)
+        return;
+    const std::vector<int> &pattern = dashPattern(Pen.Style());
+    Spans spans;
+    const size_t n = pts.size(), segments = close ? n : n - 1;
+    for (size_t i = 0; i < segments; ++i) {
+        for (const TPoint &p : Raster::LinePoints(pts[i], pts[(i + 1) % n])) {
+            const bool on = pattern.empty() || dashOn(pattern, FDashPhase);
+            ++FDashPhase;
+            if (!on)
+                continue;
+            if (!spans.empty() && spans.back().y == p.Y && spans.back().x1 + 1 == p.X)
+                spans.back().x1 = p.X;
+            else
+                spans.push_back({p.Y, p.X, p.X});
+        }
+    }
+    plot(spans, Source::solid(Pen.Color()), penRop());
+}
+
+// The shape's inside with the brush and its outline with the pen. A thin pen
+// goes over the filled inside; a wide pen's outline is cut out of the inside
+// first, so that each pixel is painted once.
+void TCanvas::fillAndStroke(const Raster::Points &outline, bool close, const Spans &inside)
+{
+    FDashPhase = 0;
+    const bool brush = hasBrush(Brush);
+    if (!widePen()) {
+        if (brush)
+            plot(inside, Source::brush(Brush), penRop());
+        thinLines(outline, close);
+        return;
+    }
+    const QRegion pen = wideOutline(outline, close);
+    if (brush)
+        plot(regionSpans(spansRegion(inside) - pen), Source::brush(Brush), penRop());
+    plot(regionSpans(pen), Source::solid(Pen.Color()), penRop());
 }
 
 void TCanvas::LineTo(int x, int y)
 {
-    FDashPhase = 0;
-    strokeLine(FPenPos, {x, y}, false);
+    Polyline({FPenPos, {x, y}});
     FPenPos = {x, y};
 }
 
@@ -270,188 +365,161 @@ void TCanvas::Polyline(const TPoint *points, int count)
 {
     if (!points || count < 2)
         return;
+    const Raster::Points pts(points, points + count);
     FDashPhase = 0;
-    for (int i = 0; i + 1 < count; ++i)
-        strokeLine(points[i], points[i + 1], false);
+    if (widePen())
+        plot(regionSpans(wideOutline(pts, false)), Source::solid(Pen.Color()), penRop());
+    else
+        thinLines(pts, false);
 }
 
 void TCanvas::Polygon(const TPoint *points, int count)
 {
     if (!points || count < 2)
         return;
-    plot(Raster::PolygonSpans(points, count), Source::brush(Brush),
-         Brush.Style() == bsClear && Brush.Bitmap().isNull() ? 0xAA : penRop());
-    FDashPhase = 0;
-    for (int i = 0; i < count; ++i)
-        strokeLine(points[i], points[(i + 1) % count], false);
+    fillAndStroke(Raster::Points(points, points + count), true,
+                  hasBrush(Brush) ? Raster::PolygonSpans(points, count) : Spans());
 }
 
-// Rectangles, ellipses and rounded rectangles share one rule: the shape
-// touches x1..x2-1 and y1..y2-1, its outline drawn by the pen and its inside
-// by the brush; without a pen it is one pixel smaller each way.
-void TCanvas::drawShape(int x1, int y1, int x2, int y2,
-                        const std::function<Spans(int, int, int, int)> &make)
+bool TCanvas::penRect(int x1, int y1, int x2, int y2, TRect &r) const
 {
-    if (x2 < x1) std::swap(x1, x2);
-    if (y2 < y1) std::swap(y1, y2);
-    const bool hasBrush = !(Brush.Style() == bsClear && Brush.Bitmap().isNull());
-    const Source brush = Source::brush(Brush);
-    if (Pen.Style() == psClear) {
-        if (hasBrush)
-            plot(make(x1, y1, x2 - 2, y2 - 2), brush, penRop());
-        return;
+    r = Rect(std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2));
+    if (r.Left == r.Right || r.Top == r.Bottom)
+        return false;
+    if (Pen.Style() == psInsideFrame) {
+        // The whole of a wide pen's stroke stays within the bounds.
+        r.Left += Pen.Width() / 2;
+        r.Top += Pen.Width() / 2;
+        r.Right -= (Pen.Width() - 1) / 2;
+        r.Bottom -= (Pen.Width() - 1) / 2;
     }
-    const int w = Pen.Width();
-    Spans outline, inside;
-    if (w <= 1) {
-        Raster::SplitOutline(make(x1, y1, x2 - 1, y2 - 1), outline, inside);
-    } else {
-        const int a = (w - 1) / 2, c = w / 2;
-        const Spans outer = make(x1 - a, y1 - a, x2 - 1 + c, y2 - 1 + c);
-        inside = make(x1 - a + w, y1 - a + w, x2 - 1 + c - w, y2 - 1 + c - w);
-        outline = Raster::Subtract(outer, inside);
-    }
-    if (hasBrush)
-        plot(inside, brush, penRop());
-    if (Pen.Style() == psSolid || Pen.Style() == psInsideFrame || w > 1) {
-        plot(outline, Source::solid(Pen.Color()), penRop());
-    } else {
-        // Dashes along the outline, pixel by pixel.
-        std::vector<TPoint> pts;
-        for (const Span &s : outline)
-            for (int x = s.x0; x <= s.x1; ++x)
-                pts.push_back({x, s.y});
-        FDashPhase = 0;
-        penPixels(pts, true);
-    }
+    return true;
 }
 
 void TCanvas::Rectangle(int x1, int y1, int x2, int y2)
 {
-    drawShape(x1, y1, x2, y2, rectSpans);
+    TRect r;
+    if (!penRect(x1, y1, x2, y2, r))
+        return;
+    --r.Right;
+    --r.Bottom;
+    // Counter-clockwise from the top right corner.
+    const Raster::Points corners{{r.Right, r.Top}, {r.Left, r.Top}, {r.Left, r.Bottom}, {r.Right, r.Bottom}};
+    Spans inside;
+    if (hasBrush(Brush)) {
+        // Inside a thin pen's outline; without a pen the fill stops one pixel
+        // short on the right and bottom; a wide pen's outline is cut out later.
+        const int w = widePen() ? 0 : penWidth();
+        inside = Raster::RectSpans(r.Left + (w + 1) / 2, r.Top + (w + 1) / 2, r.Right - w / 2 - 1, r.Bottom - w / 2 - 1);
+    }
+    fillAndStroke(corners, true, inside);
 }
 
 void TCanvas::Ellipse(int x1, int y1, int x2, int y2)
 {
-    drawShape(x1, y1, x2, y2, Raster::EllipseSpans);
+    RoundRect(x1, y1, x2, y2, x2 - x1, y2 - y1);
 }
 
 void TCanvas::RoundRect(int x1, int y1, int x2, int y2, int cornerWidth, int cornerHeight)
 {
-    drawShape(x1, y1, x2, y2, [&](int l, int t, int r, int b) {
-        return Raster::RoundRectSpans(l, t, r, b, cornerWidth, cornerHeight);
-    });
-}
-
-namespace {
-
-struct ArcGeometry
-{
-    int l, t, r, b;
-    double cx, cy, from, to;
-};
-
-ArcGeometry arcGeometry(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)
-{
-    if (x2 < x1) std::swap(x1, x2);
-    if (y2 < y1) std::swap(y1, y2);
-    ArcGeometry g{x1, y1, x2 - 1, y2 - 1, 0, 0, 0, 0};
-    g.cx = (g.l + g.r) / 2.0;
-    g.cy = (g.t + g.b) / 2.0;
-    g.from = Raster::RayAngle(g.cx, g.cy, x3, y3);
-    g.to = Raster::RayAngle(g.cx, g.cy, x4, y4);
-    return g;
-}
-
-Spans inSweep(const Spans &spans, const ArcGeometry &g)
-{
-    Spans out;
-    for (const Span &s : spans) {
-        for (int x = s.x0; x <= s.x1; ++x) {
-            if (!Raster::InSweep(Raster::RayAngle(g.cx, g.cy, x, s.y), g.from, g.to))
-                continue;
-            if (!out.empty() && out.back().y == s.y && out.back().x1 == x - 1)
-                out.back().x1 = x;
-            else
-                out.push_back({s.y, x, x});
-        }
+    TRect r;
+    if (!penRect(x1, y1, x2, y2, r))
+        return;
+    const int ew = std::min(r.Width(), std::abs(cornerWidth));
+    const int eh = std::min(r.Height(), std::abs(cornerHeight));
+    if (ew <= 2 || eh <= 2) {
+        Rectangle(x1, y1, x2, y2);
+        return;
     }
-    return out;
+    fillAndStroke(Raster::RoundRectOutline(r, ew, eh), true,
+                  hasBrush(Brush) ? Raster::RoundRectRegionSpans(r.Left, r.Top, r.Right + 1, r.Bottom + 1, ew, eh)
+                                  : Spans());
 }
 
-// Where the ray at `angle` from the centre meets the ellipse.
-TPoint rayEnd(const ArcGeometry &g, double angle)
+// The points of an arc of the ellipse in x1..x2, y1..y2, and the rectangle
+// it lies in.
+Raster::Points TCanvas::arcPoints(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4, TRect &r) const
 {
-    const double ra = (g.r - g.l) / 2.0, rb = (g.b - g.t) / 2.0;
-    const double c = std::cos(angle), s = std::sin(angle);
-    const double qa = ra > 0 ? c / ra : 0, qb = rb > 0 ? s / rb : 0;
-    const double q = std::sqrt(qa * qa + qb * qb);
-    const double t = q > 0 ? 1.0 / q : 0;
-    return {int(std::lround(g.cx + t * c)), int(std::lround(g.cy - t * s))};
+    if (!penRect(x1, y1, x2, y2, r))
+        return {};
+    const TPoint centre{r.Left + r.Width() / 2, r.Top + r.Height() / 2};
+    return Raster::ArcPoints(r, {x3 - centre.X, y3 - centre.Y}, {x4 - centre.X, y4 - centre.Y});
 }
-
-} // namespace
 
 void TCanvas::Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)
 {
-    if (Pen.Style() == psClear)
+    TRect r;
+    const Raster::Points pts = arcPoints(x1, y1, x2, y2, x3, y3, x4, y4, r);
+    if (pts.size() < 2)
         return;
-    const ArcGeometry g = arcGeometry(x1, y1, x2, y2, x3, y3, x4, y4);
-    plot(inSweep(Raster::Outline(Raster::EllipseSpans(g.l, g.t, g.r, g.b)), g),
-         Source::solid(Pen.Color()), penRop());
+    FDashPhase = 0;
+    if (widePen())
+        plot(regionSpans(wideOutline(pts, false)), Source::solid(Pen.Color()), penRop());
+    else
+        thinLines(pts, false);
 }
 
 void TCanvas::Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)
 {
-    const ArcGeometry g = arcGeometry(x1, y1, x2, y2, x3, y3, x4, y4);
-    const Spans ellipse = Raster::EllipseSpans(g.l, g.t, g.r, g.b);
-    if (!(Brush.Style() == bsClear && Brush.Bitmap().isNull()))
-        plot(inSweep(ellipse, g), Source::brush(Brush), penRop());
-    if (Pen.Style() == psClear)
+    TRect r;
+    Raster::Points pts = arcPoints(x1, y1, x2, y2, x3, y3, x4, y4, r);
+    if (pts.empty())
         return;
-    plot(inSweep(Raster::Outline(ellipse), g), Source::solid(Pen.Color()), penRop());
-    const TPoint centre{int(std::floor(g.cx)), int(std::floor(g.cy))};
-    strokeLine(centre, rayEnd(g, g.from), true);
-    strokeLine(centre, rayEnd(g, g.to), true);
+    pts.push_back({r.Left + r.Width() / 2, r.Top + r.Height() / 2});
+    fillAndStroke(pts, true,
+                  hasBrush(Brush) ? Raster::PolygonSpans(pts.data(), int(pts.size()), true) : Spans());
 }
 
 void TCanvas::FillRect(const TRect &r)
 {
-    if (r.IsEmpty())
-        return;
-    FillSpans(rectSpans(r.Left, r.Top, r.Right - 1, r.Bottom - 1), Brush);
+    PatBlt(r.Left, r.Top, r.Right - r.Left, r.Bottom - r.Top, PATCOPY);
 }
 
 void TCanvas::FrameRect(const TRect &r)
 {
     if (r.IsEmpty())
         return;
-    Spans outline, inside;
-    Raster::SplitOutline(rectSpans(r.Left, r.Top, r.Right - 1, r.Bottom - 1), outline, inside);
-    FillSpans(outline, Brush);
+    PatBlt(r.Left, r.Top, 1, r.Height(), PATCOPY);
+    PatBlt(r.Right - 1, r.Top, 1, r.Height(), PATCOPY);
+    PatBlt(r.Left, r.Top, r.Width(), 1, PATCOPY);
+    PatBlt(r.Left, r.Bottom - 1, r.Width(), 1, PATCOPY);
 }
 
 void TCanvas::DrawFocusRect(const TRect &r)
 {
     if (r.IsEmpty())
         return;
-    Spans outline, inside, dots;
-    Raster::SplitOutline(rectSpans(r.Left, r.Top, r.Right - 1, r.Bottom - 1), outline, inside);
-    for (const Span &s : outline)
-        for (int x = s.x0; x <= s.x1; ++x)
-            if (((x + s.y) & 1) == 0)
-                dots.push_back({s.y, x, x});
+    Spans dots;
+    const auto dot = [&](int x, int y) {
+        if (((x + y) & 1) == 0)
+            dots.push_back({y, x, x});
+    };
+    for (int y = r.Top; y < r.Bottom; ++y) {
+        const bool edge = y == r.Top || y == r.Bottom - 1;
+        for (int x = r.Left; x < r.Right; ++x)
+            if (edge || x == r.Left || x == r.Right - 1)
+                dot(x, y);
+    }
     plot(dots, Source::solid(clWhite), 0x5A);   // pattern XOR destination
 }
 
 void TCanvas::PatBlt(int x, int y, int width, int height, TCopyMode rop)
 {
-    TRect r = Bounds(x, y, width, height);
-    if (r.Right < r.Left) std::swap(r.Left, r.Right);
-    if (r.Bottom < r.Top) std::swap(r.Top, r.Bottom);
-    if (r.IsEmpty())
+    // A negative extent counts back from the pixel after the start point.
+    int l = x, r = x + width, t = y, b = y + height;
+    if (l > r) {
+        std::swap(l, r);
+        ++l;
+        ++r;
+    }
+    if (t > b) {
+        std::swap(t, b);
+        ++t;
+        ++b;
+    }
+    if (l == r || t == b)
         return;
-    plot(rectSpans(r.Left, r.Top, r.Right - 1, r.Bottom - 1), Source::brush(Brush), quint8(rop >> 16));
+    FillSpans(Raster::RectSpans(l, t, r - 1, b - 1), Brush, rop);
 }
 
 void TCanvas::CopyRect(const TRect &dest, const TCanvas &source, const TRect &src)

@@ -14,7 +14,6 @@
 #include <QRegion>
 #include <QString>
 
-#include <functional>
 #include <vector>
 
 enum TPenStyle { psSolid, psDash, psDot, psDashDot, psDashDotDot, psClear, psInsideFrame };
@@ -161,6 +160,8 @@ public:
     void DrawFocusRect(const TRect &r);
     void PatBlt(int x, int y, int width, int height, TCopyMode rop);
     void FillSpans(const Raster::Spans &spans, const TBrush &brush, TCopyMode rop = cmPatCopy);
+    // Fills every pixel of the region with the brush, combined by the pen mode.
+    void FillRegion(const QRegion &region, const TBrush &brush);
 
     void CopyRect(const TRect &dest, const TCanvas &source, const TRect &src);
     void CopyRect(const TRect &dest, const QImage &source, const TRect &src);
@@ -181,10 +182,14 @@ public:
 private:
     struct Source;
     void plot(const Raster::Spans &spans, const Source &source, quint8 rop3);
-    void penPixels(const std::vector<TPoint> &points, bool dashed);
-    void strokeLine(TPoint a, TPoint b, bool withEnd);
-    void drawShape(int x1, int y1, int x2, int y2,
-                   const std::function<Raster::Spans(int, int, int, int)> &make);
+    static bool hasBrush(const TBrush &brush);
+    int penWidth() const;
+    bool widePen() const;
+    bool penRect(int x1, int y1, int x2, int y2, TRect &r) const;
+    QRegion wideOutline(const Raster::Points &points, bool close) const;
+    void thinLines(const Raster::Points &points, bool close);
+    void fillAndStroke(const Raster::Points &outline, bool close, const Raster::Spans &inside);
+    Raster::Points arcPoints(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4, TRect &r) const;
     void textBackground(const QRect &r);
     quint8 penRop() const;
 

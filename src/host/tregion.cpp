@@ -2,19 +2,6 @@
 
 #include <algorithm>
 
-namespace {
-
-Raster::Spans regionSpans(const QRegion &r)
-{
-    Raster::Spans spans;
-    for (const QRect &rect : r)
-        for (int y = rect.top(); y <= rect.bottom(); ++y)
-            spans.push_back({y, rect.left(), rect.right()});
-    return spans;
-}
-
-} // namespace
-
 TRegion::TRegion(const Raster::Spans &spans)
 {
     std::vector<QRect> rects;
@@ -33,16 +20,12 @@ TRegion CreateRectRgn(int x1, int y1, int x2, int y2)
 
 TRegion CreateEllipticRgn(int x1, int y1, int x2, int y2)
 {
-    if (x2 < x1) std::swap(x1, x2);
-    if (y2 < y1) std::swap(y1, y2);
-    return TRegion(Raster::EllipseSpans(x1, y1, x2 - 1, y2 - 1));
+    return TRegion(Raster::RoundRectRegionSpans(x1, y1, x2, y2, x2 - x1, y2 - y1));
 }
 
 TRegion CreateRoundRectRgn(int x1, int y1, int x2, int y2, int cornerWidth, int cornerHeight)
 {
-    if (x2 < x1) std::swap(x1, x2);
-    if (y2 < y1) std::swap(y1, y2);
-    return TRegion(Raster::RoundRectSpans(x1, y1, x2 - 1, y2 - 1, cornerWidth, cornerHeight));
+    return TRegion(Raster::RoundRectRegionSpans(x1, y1, x2, y2, cornerWidth, cornerHeight));
 }
 
 TRegion CreatePolygonRgn(const TPoint *points, int count)
@@ -80,7 +63,7 @@ bool PtInRegion(const TRegion &r, int x, int y)
 
 void FillRgn(TCanvas &canvas, const TRegion &r, const TBrush &brush)
 {
-    canvas.FillSpans(regionSpans(r.ToQRegion()), brush);
+    canvas.FillRegion(r.ToQRegion(), brush);
 }
 
 void PaintRgn(TCanvas &canvas, const TRegion &r)
