@@ -4,7 +4,7 @@
 
 #include "services/std2.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QTimer>
 
 namespace {
@@ -13,7 +13,7 @@ constexpr int kInterval = 10;
 constexpr int kTicks = 150;
 
 template <class Start>
-std::vector<double> lateness(QCoreApplication &app, Start start)
+std::vector<double> lateness(QApplication &app, Start start)
 {
     std::vector<double> late;
     QElapsedTimer clock;
@@ -37,7 +37,9 @@ std::vector<double> lateness(QCoreApplication &app, Start start)
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);   // the timer is a component, and so a widget
     const auto threaded = lateness(app, [](auto onTick) {
         auto *timer = new TqcTimer;
         timer->SetInterval(kInterval);

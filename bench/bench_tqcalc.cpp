@@ -6,6 +6,8 @@
 
 #include "services/mystd.h"
 
+#include <QApplication>
+
 #include <muParser.h>
 
 #include <random>
@@ -136,8 +138,10 @@ Result inChild(Work work)
 
 } // namespace
 
-int main()
+int main(int argc, char **argv)
 {
+    qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+    QApplication app(argc, argv);   // components are widgets
     Corpus corpus(20261121);
     std::vector<std::string> lines;
     for (int i = 0; i < 1500; ++i)

@@ -2,8 +2,10 @@
 // inheritance, design mode, the off-screen paint and the non-visual face.
 #include "host/tcontrol.h"
 
+#include <QBuffer>
 #include <QEnterEvent>
 #include <QHelpEvent>
+#include <QUiLoader>
 #include <QtTest>
 
 namespace {
@@ -21,6 +23,73 @@ protected:
         canvas.FillRect(Rect(0, 0, width() / 2, height()));
     }
 };
+// Keeps itself square and counts the hooks it sees; raises OnClick only
+// when told to.
+class SquareControl : public TCustomControl
+{
+    Q_OBJECT
+    Q_PROPERTY(int Value READ Value WRITE SetValue)
+public:
+    using TCustomControl::TCustomControl;
+    int Value() const { return value; }
+    void SetValue(int v) { value = v; }
+    int value = 0;
+    int valueAtLoaded = -1;
+    int loads = 0;
+    int bounds = 0;
+    int clicks = 0;
+    bool passClick = true;
+    void SetBounds(int l, int t, int w, int h) override
+    {
+        ++bounds;
+        const int side = w != width() ? w : h;
+        TCustomControl::SetBounds(l, t, side, side);
+    }
+protected:
+    void Loaded() override
+    {
+        TCustomControl::Loaded();
+        ++loads;
+        valueAtLoaded = value;
+    }
+    void Click() override
+    {
+        ++clicks;
+        if (passClick)
+            TCustomControl::Click();
+    }
+    void MouseDown(TMouseButton, TShiftState, int, int) override {}   // swallowed
+    void Paint(TCanvas &canvas) override
+    {
+        canvas.Brush.SetColor(clNavy);
+        canvas.FillRect(ClientRect());
+    }
+};
+
+// Draws a focus rectangle round its edge over whatever is beneath.
+class FocusFrame : public TGraphicControl
+{
+public:
+    using TGraphicControl::TGraphicControl;
+protected:
+    void Paint(TCanvas &canvas) override { canvas.DrawFocusRect(ClientRect()); }
+};
+
+class Loader : public QUiLoader
+{
+public:
+    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
+    {
+        if (className != QLatin1String("SquareControl"))
+            return QUiLoader::createWidget(className, parent, name);
+        auto *w = new SquareControl(parent);
+        w->setObjectName(name);
+        return w;
+    }
+};
+
+QRgb pixelOf(QWidget *w, int x, int y) { return w->grab().toImage().pixel(x, y) & 0xFFFFFF; }
+
 } // namespace
 
 class tst_Control : public QObject
@@ -35,7 +104,14 @@ private slots:
     void parentColor();
     void showHint();
     void designTimeCreation();
-    void componentFace();
+    void componentIsItsOwnFace();
+    void overriddenHooksDecideTheEvents();
+    void everyResizeGoesThroughSetBounds();
+    void loadedRunsOnceAfterAFormLoad();
+    void keysAndFocus();
+    void updatePaintsOnlyThisControl();
+    void transparentControlCombinesWithWhatIsBeneath();
+    void canvasOutsidePaint();
     void offScreenPaintComposesOverParent();
 };
 
@@ -174,22 +250,6 @@ void tst_Control::designTimeCreation()
     QVERIFY(!after.IsDesigning());
 }
 
-void tst_Control::componentFace()
-{
-    QWidget form;
-    auto *component = new TComponent;
-    auto *face = new TComponentFace(component, &form);
-    QCOMPARE(component->parent(), face);   // the face owns it
-    form.show();
-    QVERIFY(!face->isVisible());           // nothing at run time
-    face->SetDesigning(true);
-    QVERIFY(face->isVisible());
-    QVERIFY(component->IsDesigning());
-    QImage shot = face->grab().toImage();
-    QVERIFY(!shot.isNull());
-    QCOMPARE(QColor(shot.pixel(0, 0)), QGuiApplication::palette().color(QPalette::Light));
-}
-
 void tst_Control::offScreenPaintComposesOverParent()
 {
     QWidget parent;
@@ -208,6 +268,190 @@ void tst_Control::offScreenPaintComposesOverParent()
     const QImage direct = c->RenderImage(qRgb(0, 255, 0));
     QCOMPARE(QColor(direct.pixel(5, 5)), QColor(Qt::blue));
     QCOMPARE(QColor(direct.pixel(30, 5)), QColor(Qt::green));
+}
+
+void tst_Control::componentIsItsOwnFace()
+{
+    QWidget form;
+    auto *component = new TComponent(&form);
+    form.show();
+    QVERIFY(!component->isVisible());           // nothing at run time
+    component->SetDesigning(true);
+    QVERIFY(component->isVisible());
+    const QImage shot = component->grab().toImage();
+    QCOMPARE(QColor(shot.pixel(0, 0)), QGuiApplication::palette().color(QPalette::Light));
+}
+
+void tst_Control::overriddenHooksDecideTheEvents()
+{
+    SquareControl c;
+    c.SetBounds(0, 0, 30, 30);
+    QSignalSpy downs(&c, &TControl::OnMouseDown), ups(&c, &TControl::OnMouseUp), clicks(&c, &TControl::OnClick);
+    QTest::mouseClick(&c, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    QCOMPARE(downs.count(), 0);   // MouseDown swallowed it
+    QCOMPARE(ups.count(), 1);
+    QCOMPARE(c.clicks, 1);
+    QCOMPARE(clicks.count(), 1);
+    c.passClick = false;
+    QTest::mouseClick(&c, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    QCOMPARE(c.clicks, 2);
+    QCOMPARE(clicks.count(), 1);
+}
+
+void tst_Control::everyResizeGoesThroughSetBounds()
+{
+    QWidget form;
+    form.resize(200, 200);
+    auto *c = new SquareControl(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    c->bounds = 0;
+    c->SetBounds(10, 10, 40, 30);        // from code: the width changed, so it wins
+    QCOMPARE(c->geometry(), QRect(10, 10, 40, 40));
+    QCOMPARE(c->bounds, 1);
+    c->resize(40, 70);                    // round SetBounds: the height wins
+    QCOMPARE(c->size(), QSize(70, 70));
+    QCOMPARE(c->bounds, 2);
+    c->setGeometry(5, 5, 20, 70);         // as a layout or the designer does
+    QCOMPARE(c->geometry(), QRect(5, 5, 20, 20));
+    QCOMPARE(c->bounds, 3);
+    c->SetLeft(7);
+    QCOMPARE(c->geometry(), QRect(7, 5, 20, 20));
+    QCOMPARE(c->bounds, 4);
+    c->SetBounds(7, 5, 20, 20);           // nothing changes, still one call
+    QCOMPARE(c->bounds, 5);
+}
+
+void tst_Control::loadedRunsOnceAfterAFormLoad()
+{
+    QByteArray ui = R"(<ui version="4.0"><class>Form</class>
+        <widget class="QWidget" name="Form">
+         <widget class="SquareControl" name="a"><property name="Value"><number>7</number></property></widget>
+         <widget class="SquareControl" name="b"><property name="Value"><number>9</number></property></widget>
+        </widget></ui>)";
+    QBuffer file(&ui);
+    Loader loader;
+    std::unique_ptr<QWidget> form;
+    {
+        FormLoading loading;
+        form.reset(loader.load(&file));
+        QVERIFY(form);
+        QCOMPARE(form->findChild<SquareControl *>("a")->loads, 0);   // not before the form is complete
+    }
+    for (const char *name : {"a", "b"}) {
+        auto *c = form->findChild<SquareControl *>(name);
+        QCOMPARE(c->loads, 1);
+        QCOMPARE(c->valueAtLoaded, c->value);   // after the stored properties
+        QVERIFY(!c->IsLoading());
+    }
+    // Made by code: no Loaded at all. Queued (the designer's way): once.
+    SquareControl byCode, queued;
+    queued.QueueLoaded();
+    QVERIFY(queued.IsLoading());
+    QTRY_COMPARE(queued.loads, 1);
+    queued.FinishLoading();
+    QCoreApplication::processEvents();
+    QCOMPARE(queued.loads, 1);
+    QCOMPARE(byCode.loads, 0);
+}
+
+void tst_Control::keysAndFocus()
+{
+    QWidget form;
+    auto *c = new SquareControl(&form);
+    auto *other = new SquareControl(&form);
+    other->move(50, 0);
+    QStringList log;
+    connect(c, &TCustomControl::OnEnter, this, [&] { log << "enter"; });
+    connect(c, &TCustomControl::OnExit, this, [&] { log << "exit"; });
+    connect(c, &TCustomControl::OnKeyDown, this, [&](QObject *, quint16 &key, int shift) {
+        if (key == 0x10)
+            return;   // the shift key itself
+        log << QStringLiteral("down %1 %2").arg(key, 0, 16).arg(shift);
+        if (key == 0x25)
+            key = 0;   // consumed
+    });
+    connect(c, &TCustomControl::OnKeyPress, this, [&](QObject *, char &key) { log << QStringLiteral("press %1").arg(key); });
+    connect(c, &TCustomControl::OnKeyUp, this, [&](QObject *, quint16 &key, int) {
+        if (key != 0x10)
+            log << QStringLiteral("up %1").arg(key, 0, 16);
+    });
+    form.show();
+    QApplication::setActiveWindow(&form);
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    c->setFocus();
+    QTest::keyClick(c, 'A', Qt::ShiftModifier);
+    QTest::keyClick(c, Qt::Key_Left);
+    other->setFocus();
+    QCOMPARE(log, (QStringList{"enter", "down 41 1", "press A", "up 41", "down 25 0", "up 25", "exit"}));
+}
+
+void tst_Control::updatePaintsOnlyThisControl()
+{
+    QWidget form;
+    form.resize(100, 50);
+    auto *a = new HalfControl(&form), *b = new HalfControl(&form);
+    a->SetControlStyle(a->ControlStyle() | csOpaque);
+    b->SetControlStyle(b->ControlStyle() | csOpaque);
+    a->setGeometry(0, 0, 40, 40);
+    b->setGeometry(50, 0, 40, 40);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    QTRY_VERIFY(a->paints > 0 && b->paints > 0);
+    const int pa = a->paints, pb = b->paints;
+    a->Update();                       // nothing pending: nothing painted
+    QCOMPARE(a->paints, pa);
+    a->Invalidate();
+    a->Update();                       // painted at once, and alone
+    QCOMPARE(a->paints, pa + 1);
+    QCOMPARE(b->paints, pb);
+}
+
+void tst_Control::transparentControlCombinesWithWhatIsBeneath()
+{
+    QWidget form;
+    form.resize(40, 20);
+    form.setAutoFillBackground(true);
+    QPalette pal;
+    pal.setColor(QPalette::Window, Qt::red);
+    form.setPalette(pal);
+    auto *below = new HalfControl(&form);           // an earlier sibling: blue on the left
+    below->setGeometry(0, 0, 40, 20);
+    auto *frame = new FocusFrame(&form);
+    frame->setGeometry(0, 0, 40, 20);
+    // The focus rectangle's dots invert what is beneath, one pixel in two.
+    QCOMPARE(pixelOf(&form, 0, 0), qRgb(255, 255, 0) & 0xFFFFFF);    // blue inverted
+    QCOMPARE(pixelOf(&form, 1, 0), qRgb(0, 0, 255) & 0xFFFFFF);
+    QCOMPARE(pixelOf(&form, 30, 0), qRgb(0, 255, 255) & 0xFFFFFF);   // red inverted
+    QCOMPARE(pixelOf(&form, 31, 0), qRgb(255, 0, 0) & 0xFFFFFF);
+    QCOMPARE(pixelOf(&form, 30, 10), qRgb(255, 0, 0) & 0xFFFFFF);   // inside: untouched
+}
+
+void tst_Control::canvasOutsidePaint()
+{
+    QWidget form;
+    form.resize(40, 20);
+    auto *c = new HalfControl(&form);
+    c->setGeometry(0, 0, 40, 20);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    const QRgb before = pixelOf(&form, 30, 5);
+    {
+        TControlCanvas canvas(&form);
+        canvas.Pen.SetMode(pmNot);
+        canvas.MoveTo(0, 5);
+        canvas.LineTo(40, 5);
+        canvas.Flush();
+        QCOMPARE(pixelOf(&form, 30, 5), ~before & 0xFFFFFF);
+        QCOMPARE(pixelOf(&form, 5, 5), qRgb(255, 255, 0) & 0xFFFFFF);   // over the child too
+        canvas.MoveTo(0, 5);
+        canvas.LineTo(40, 5);   // drawn again: gone
+        canvas.Flush();
+        QCOMPARE(pixelOf(&form, 30, 5), before);
+        canvas.LineTo(40, 15);
+        canvas.Flush();
+    }
+    QCOMPARE(pixelOf(&form, 39, 10), pixelOf(&form, 38, 10));   // removed with the canvas
 }
 
 QTEST_MAIN(tst_Control)

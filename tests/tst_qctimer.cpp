@@ -9,7 +9,6 @@ class tst_QcTimer : public QObject
 {
     Q_OBJECT
 private slots:
-    void defaults();
     void ticksOnTheMainThread();
     void ticksAreAtLeastAnIntervalApart();
     void noTickWhileAConditionFails_data();
@@ -22,26 +21,7 @@ private slots:
     void intervalChangeTakesEffect();
     void steelTexture();
     void delayBlocksWithoutEvents();
-    void face();
 };
-
-void tst_QcTimer::defaults()
-{
-    TqcTimer timer;
-    QVERIFY(timer.Enabled());
-    QCOMPARE(timer.Interval(), 1000u);
-    QCOMPARE(timer.Priority(), TqcTimer::tpNormal);
-    QVERIFY(!timer.Ticking());   // no handler yet
-    const QMetaEnum e = QMetaEnum::fromType<TqcTimer::TThreadPriority>();
-    QCOMPARE(e.keyCount(), 7);
-    QCOMPARE(e.valueToKey(0), "tpIdle");
-    QCOMPARE(e.valueToKey(6), "tpTimeCritical");
-    const QMetaObject &mo = TqcTimer::staticMetaObject;
-    QStringList names;
-    for (int i = 0; i < mo.propertyCount(); ++i)
-        names << QString::fromLatin1(mo.property(i).name());
-    QCOMPARE(names, (QStringList{"objectName", "Name", "Tag", "Priority", "Enabled", "Interval"}));
-}
 
 void tst_QcTimer::ticksOnTheMainThread()
 {
@@ -214,21 +194,6 @@ void tst_QcTimer::delayBlocksWithoutEvents()
     QVERIFY(!delivered);   // nothing was processed meanwhile
     Delay(0);
     QTRY_VERIFY(delivered);
-}
-
-void tst_QcTimer::face()
-{
-    QWidget form;
-    auto *face = new TqcTimerFace(&form);
-    form.show();
-    QVERIFY(!face->isVisible());
-    QVERIFY(face->setProperty("Interval", 5u));
-    QCOMPARE(face->Timer()->Interval(), 5u);
-    QVERIFY(!face->Timer()->Ticking());   // nobody listens to the face
-    QSignalSpy spy(face, &TqcTimerFace::OnTimer);
-    QVERIFY(face->Timer()->Ticking());
-    QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= 1, 5000);
-    QCOMPARE(spy.at(0).at(0).value<QObject *>(), face->Timer());
 }
 
 QTEST_MAIN(tst_QcTimer)

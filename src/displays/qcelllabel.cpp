@@ -1,7 +1,5 @@
 #include "qcelllabel.h"
 
-#include <QResizeEvent>
-
 TqCustomCellLabel::TqCustomCellLabel(QWidget *parent) : TCustomControl(parent)
 {
     SetControlStyle(ControlStyle() & ~csOpaque);
@@ -31,21 +29,21 @@ QSize TqCustomCellLabel::ComputedSize() const
 void TqCustomCellLabel::SetWidth(int value)
 {
     if (value != width())
-        resize(ComputedSize().width(), height());
+        SetBounds(x(), y(), value, height());
 }
 
 void TqCustomCellLabel::SetHeight(int value)
 {
     if (value != height())
-        resize(width(), ComputedSize().height());
+        SetBounds(x(), y(), width(), value);
 }
 
-// A size from outside (a layout, the designer) snaps back at once.
-void TqCustomCellLabel::resizeEvent(QResizeEvent *event)
+// Any size from outside (code, a layout, the designer) snaps back to what
+// the cells need.
+void TqCustomCellLabel::SetBounds(int left, int top, int, int)
 {
-    TCustomControl::resizeEvent(event);
-    if (event->size() != ComputedSize())
-        resize(ComputedSize());
+    const QSize size = ComputedSize();
+    TCustomControl::SetBounds(left, top, size.width(), size.height());
 }
 
 void TqCustomCellLabel::SetCaption(const QString &caption)
@@ -72,7 +70,7 @@ void TqCustomCellLabel::SetCount(quint8 count)
 {
     FCount = count;
     freeCells();   // always rebuilt whole, even for one cell more
-    resize(ComputedSize());
+    SetBounds(x(), y(), width(), height());
     const int pitch = CellSize().width();
     for (int i = 0; i < count; ++i) {
         TControl *cell = CreateCell(i);

@@ -40,6 +40,7 @@ public:
     TColor UnLitColor() const { return FUnLitColor; }
     void SetUnLitColor(TColor color);
 
+    void SetBounds(int left, int top, int width, int height) override;
     void SetColor(TColor color) override;
     void SetParentColor(bool parentColor) override;
     void SetVisible(bool visible) override;
@@ -76,7 +77,6 @@ protected:
     QString FCaption;
 
     void Paint(TCanvas &canvas) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void routeEvents(TControl *cell);

@@ -24,7 +24,7 @@ QTime TClockWork::Now() const
     return QTime::currentTime();
 }
 
-TClockWork::TClockWork(QObject *owner, Show show) : FShow(std::move(show)), FTimer(new TqcTimer(owner))
+TClockWork::TClockWork(QWidget *owner, Show show) : FShow(std::move(show)), FTimer(new TqcTimer(owner))
 {
     QObject::connect(FTimer, &TqcTimer::OnTimer, FTimer, [this](QObject *) { TimerNu(); });
 }

@@ -17,7 +17,7 @@ public:
     using Show = std::function<void(const QString &caption)>;
 
     // `show` receives the new caption; the timer ticks once a second.
-    TClockWork(QObject *owner, Show show);
+    TClockWork(QWidget *owner, Show show);
     ~TClockWork();   // frees the timer first of all
     TClockWork(const TClockWork &) = delete;
     TClockWork &operator=(const TClockWork &) = delete;

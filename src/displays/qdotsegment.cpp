@@ -50,7 +50,7 @@ void TqcDotSegment::SetStyle(qcDotStyle style)
 void TqcDotSegment::DoUpdate()
 {
     FGeometry = DotGeometry(Size());
-    setGeometry(x(), y(), FGeometry.Width, FGeometry.Height);
+    SetBounds(x(), y(), FGeometry.Width, FGeometry.Height);
     Invalidate();
 }
 

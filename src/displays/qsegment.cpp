@@ -318,7 +318,7 @@ void TqSegment::DoUpdate()
         for (int n = 1; n <= SegmentElementCount; ++n)
             FPolygons[size_t(n - 1)] = SegmentElementPolygon(n, Size());
     }
-    resize(Extent());
+    SetBounds(x(), y(), Extent().width(), Extent().height());
     Invalidate();
 }
 

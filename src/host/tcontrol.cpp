@@ -8,6 +8,12 @@
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPaintEngine>
+#include <QPixmap>
+
+#include "tcodepage.h"
 
 namespace {
 TControl::TShiftState shiftState(Qt::KeyboardModifiers mods, Qt::MouseButtons buttons)
@@ -64,7 +70,7 @@ Qt::CursorShape CursorShape(TCursor cursor)
     }
 }
 
-TControl::TControl(QWidget *parent) : QWidget(parent), FDesigning(DesignTimeCreation::Active())
+TControl::TControl(QWidget *parent) : QWidget(parent), TComponentCore(this)
 {
     setMouseTracking(true);
     setAcceptDrops(true);
@@ -72,14 +78,36 @@ TControl::TControl(QWidget *parent) : QWidget(parent), FDesigning(DesignTimeCrea
     setAttribute(Qt::WA_NoSystemBackground);
     UpdateOpacity();
     adoptParentColor();
+    FBounds = geometry();
 }
 
 void TControl::SetDesigning(bool designing)
 {
-    if (FDesigning == designing)
+    if (IsDesigning() == designing)
         return;
-    FDesigning = designing;
+    TComponentCore::SetDesigning(designing);
     Invalidate();
+}
+
+void TControl::SetBounds(int left, int top, int width, int height)
+{
+    FBounds = QRect(left, top, width, height);
+    setGeometry(FBounds);
+    FBounds = geometry();   // as far as the widget's own limits allow
+}
+
+// A new place or size that did not come through SetBounds (a layout, the
+// designer, resize() from code) goes through it now.
+void TControl::boundsChanged()
+{
+    const QRect g = geometry();
+    if (FInBounds || g == FBounds)
+        return;
+    // SetBounds compares with the bounds it had: put them back first.
+    FInBounds = true;
+    setGeometry(FBounds);
+    FInBounds = false;
+    SetBounds(g.x(), g.y(), g.width(), g.height());
 }
 
 void TControl::SetControlStyle(TControlStyle style)
@@ -233,8 +261,8 @@ void TControl::dropEvent(QDropEvent *event)
 
 void TControl::Update()
 {
-    if (QWidget *w = window())
-        w->repaint();
+    if (FPaintPending)
+        repaint();
 }
 
 void TControl::InvalidateParentArea()
@@ -253,24 +281,54 @@ void TControl::paintInto(QImage &image)
     FCanvas = nullptr;
 }
 
+// Where the control is not opaque, its picture starts as what its parent
+// and the siblings below it have just drawn there, read back from the
+// surface being painted; raster operations then combine with it.
+void TControl::copyBeneath(QPainter &painter)
+{
+    QPaintDevice *device = painter.paintEngine() ? painter.paintEngine()->paintDevice() : nullptr;
+    QImage surface;
+    if (device && device->devType() == QInternal::Image)
+        surface = *static_cast<QImage *>(device);
+    else if (device && device->devType() == QInternal::Pixmap)
+        surface = static_cast<QPixmap *>(device)->toImage();
+    const QRect area = painter.deviceTransform().mapRect(QRectF(rect())).toAlignedRect();
+    if (surface.isNull() || !surface.rect().contains(area)) {
+        FBuffer.fill(ColorToQRgb(Color()));
+        return;
+    }
+    QImage beneath = surface.copy(area);
+    if (beneath.size() != FBuffer.size())
+        beneath = beneath.scaled(FBuffer.size());
+    FBuffer = beneath.convertToFormat(QImage::Format_RGB32);
+}
+
 void TControl::paintEvent(QPaintEvent *)
 {
+    FPaintPending = false;
     if (width() <= 0 || height() <= 0)
         return;
-    const bool opaque = PaintsOpaque();
-    const QImage::Format format = opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied;
-    if (FBuffer.size() != size() || FBuffer.format() != format)
-        FBuffer = QImage(size(), format);
-    if (!opaque)
-        FBuffer.fill(Qt::transparent);
+    QPainter painter(this);
+    if (FBuffer.size() != size())
+        FBuffer = QImage(size(), QImage::Format_RGB32);
+    if (!PaintsOpaque())
+        copyBeneath(painter);
     paintInto(FBuffer);
-    QPainter(this).drawImage(0, 0, FBuffer);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(0, 0, FBuffer);
 }
 
 void TControl::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     updateGeometry();   // a new extent is a new size hint
+    boundsChanged();
+}
+
+void TControl::moveEvent(QMoveEvent *event)
+{
+    QWidget::moveEvent(event);
+    boundsChanged();
 }
 
 QImage TControl::RenderImage(QRgb background)
@@ -291,16 +349,32 @@ bool TControl::event(QEvent *event)
     return QWidget::event(event);
 }
 
+void TControl::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
+{
+    emit OnMouseDown(this, Button, Shift, X, Y);
+}
+
+void TControl::MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y)
+{
+    emit OnMouseUp(this, Button, Shift, X, Y);
+}
+
+void TControl::MouseMove(TShiftState Shift, int X, int Y) { emit OnMouseMove(this, Shift, X, Y); }
+void TControl::Click() { emit OnClick(this); }
+void TControl::DblClick() { emit OnDblClick(this); }
+void TControl::MouseEnter() { emit OnMouseEnter(this); }
+void TControl::MouseLeave() { emit OnMouseLeave(this); }
+
 void TControl::enterEvent(QEnterEvent *event)
 {
     QWidget::enterEvent(event);
-    emit OnMouseEnter(this);
+    MouseEnter();
 }
 
 void TControl::leaveEvent(QEvent *event)
 {
     QWidget::leaveEvent(event);
-    emit OnMouseLeave(this);
+    MouseLeave();
 }
 
 void TControl::mousePressEvent(QMouseEvent *event)
@@ -311,8 +385,8 @@ void TControl::mousePressEvent(QMouseEvent *event)
     if (button == mbLeft)
         FClicked = true;
     const QPoint p = event->position().toPoint();
-    emit OnMouseDown(this, button, shiftState(event->modifiers(), event->buttons()), p.x(), p.y());
-    if (button == mbLeft && FDragMode == dmAutomatic && !FDesigning) {
+    MouseDown(button, shiftState(event->modifiers(), event->buttons()), p.x(), p.y());
+    if (button == mbLeft && FDragMode == dmAutomatic && !IsDesigning()) {
         FClicked = false;
         BeginDrag();
     }
@@ -329,8 +403,8 @@ void TControl::mouseReleaseEvent(QMouseEvent *event)
     if (button == mbLeft)
         FClicked = false;
     if (click && (FControlStyle & csClickEvents))
-        emit OnClick(this);
-    emit OnMouseUp(this, button, shiftState(event->modifiers(), event->buttons()), p.x(), p.y());
+        Click();
+    MouseUp(button, shiftState(event->modifiers(), event->buttons()), p.x(), p.y());
 }
 
 void TControl::mouseDoubleClickEvent(QMouseEvent *event)
@@ -341,15 +415,15 @@ void TControl::mouseDoubleClickEvent(QMouseEvent *event)
     // The second press of a double click raises DblClick, then a mouse
     // down marked double; its release is no click.
     if (button == mbLeft && (FControlStyle & csDoubleClicks))
-        emit OnDblClick(this);
+        DblClick();
     const QPoint p = event->position().toPoint();
-    emit OnMouseDown(this, button, shiftState(event->modifiers(), event->buttons()) | ssDouble, p.x(), p.y());
+    MouseDown(button, shiftState(event->modifiers(), event->buttons()) | ssDouble, p.x(), p.y());
 }
 
 void TControl::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint p = event->position().toPoint();
-    emit OnMouseMove(this, shiftState(event->modifiers(), event->buttons()), p.x(), p.y());
+    MouseMove(shiftState(event->modifiers(), event->buttons()), p.x(), p.y());
 }
 
 TGraphicControl::TGraphicControl(QWidget *parent) : TControl(parent)
@@ -362,47 +436,168 @@ TCustomControl::TCustomControl(QWidget *parent) : TControl(parent)
     setFocusPolicy(Qt::StrongFocus);
 }
 
-TComponentFace::TComponentFace(TComponent *component, QWidget *parent)
-    : QWidget(parent), FComponent(component), FDesigning(DesignTimeCreation::Active())
+void TCustomControl::KeyDown(quint16 &Key, TShiftState Shift) { emit OnKeyDown(this, Key, Shift); }
+void TCustomControl::KeyPress(char &Key) { emit OnKeyPress(this, Key); }
+void TCustomControl::KeyUp(quint16 &Key, TShiftState Shift) { emit OnKeyUp(this, Key, Shift); }
+void TCustomControl::DoEnter() { emit OnEnter(this); }
+void TCustomControl::DoExit() { emit OnExit(this); }
+
+// A key press is KeyDown and then, for a key that types a character,
+// KeyPress; keys nobody consumed go on to the parent (a dialog's default
+// button, a form's shortcuts).
+void TCustomControl::keyPressEvent(QKeyEvent *event)
 {
-    if (FComponent)
-        FComponent->setParent(this);
-    setFixedSize(sizeHint());
-    if (!FDesigning)
-        hide();
+    quint16 key = VirtualKey(event->key(), event->modifiers());
+    bool consumed = false;
+    if (key) {
+        KeyDown(key, shiftState(event->modifiers(), QGuiApplication::mouseButtons()));
+        consumed = key == 0;
+    }
+    const QString text = event->text();
+    if (!consumed && text.size() == 1 && (text[0].unicode() >= 32 || text[0] == '\r' || text[0] == '\b'
+                                          || text[0] == '\x1b' || text[0] == '\t')) {
+        char c = char(UnicodeToWin1252(text[0]));
+        KeyPress(c);
+        consumed = c == 0;
+    }
+    event->setAccepted(consumed);
 }
 
-void TComponentFace::SetDesigning(bool designing)
+void TCustomControl::keyReleaseEvent(QKeyEvent *event)
 {
-    FDesigning = designing;
-    if (FComponent)
-        FComponent->SetDesigning(designing);
-    setVisible(designing);
+    quint16 key = VirtualKey(event->key(), event->modifiers());
+    if (key)
+        KeyUp(key, shiftState(event->modifiers(), QGuiApplication::mouseButtons()));
+    event->setAccepted(key == 0);
 }
 
-void TComponentFace::paintEvent(QPaintEvent *)
+void TCustomControl::focusInEvent(QFocusEvent *event)
 {
-    if (!FDesigning)
-        return;
-    QImage image(size(), QImage::Format_RGB32);
-    TCanvas canvas(&image);
-    canvas.Brush.SetColor(clBtnFace);
-    canvas.FillRect(Rect(0, 0, width(), height()));
-    TRect r = Rect(0, 0, width(), height());
-    Frame3D(canvas, r, clBtnHighlight, clBtnShadow, 1);
-    // Capital letters of the class name (TqcTimer -> T), without the prefix.
-    QString name = FComponent ? QString::fromLatin1(FComponent->metaObject()->className()) : QString();
-    if (name.startsWith(QLatin1String("Tqc")))
-        name = name.mid(3);
-    else if (name.startsWith(QLatin1String("Tq")))
-        name = name.mid(2);
-    QString initials;
-    for (const QChar c : name)
-        if (c.isUpper())
-            initials += c;
-    canvas.Brush.SetStyle(bsClear);
-    canvas.Font.SetColor(clBtnText);
-    canvas.Font.SetStyle(fsBold);
-    canvas.DrawText(initials.left(3), r, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
-    QPainter(this).drawImage(0, 0, image);
+    TControl::focusInEvent(event);
+    DoEnter();
+}
+
+void TCustomControl::focusOutEvent(QFocusEvent *event)
+{
+    TControl::focusOutEvent(event);
+    DoExit();
+}
+
+quint16 VirtualKey(int key, Qt::KeyboardModifiers modifiers)
+{
+    const bool keypad = modifiers & Qt::KeypadModifier;
+    if (key >= Qt::Key_0 && key <= Qt::Key_9)
+        return quint16(keypad ? 0x60 + (key - Qt::Key_0) : key);
+    if (key >= Qt::Key_A && key <= Qt::Key_Z)
+        return quint16(key);
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F24)
+        return quint16(0x70 + (key - Qt::Key_F1));
+    switch (key) {
+    case Qt::Key_Backspace: return 0x08;
+    case Qt::Key_Tab: case Qt::Key_Backtab: return 0x09;
+    case Qt::Key_Return: case Qt::Key_Enter: return 0x0D;
+    case Qt::Key_Shift: return 0x10;
+    case Qt::Key_Control: return 0x11;
+    case Qt::Key_Alt: return 0x12;
+    case Qt::Key_Pause: return 0x13;
+    case Qt::Key_CapsLock: return 0x14;
+    case Qt::Key_Escape: return 0x1B;
+    case Qt::Key_Space: return 0x20;
+    case Qt::Key_PageUp: return 0x21;
+    case Qt::Key_PageDown: return 0x22;
+    case Qt::Key_End: return 0x23;
+    case Qt::Key_Home: return 0x24;
+    case Qt::Key_Left: return 0x25;
+    case Qt::Key_Up: return 0x26;
+    case Qt::Key_Right: return 0x27;
+    case Qt::Key_Down: return 0x28;
+    case Qt::Key_Print: return 0x2C;
+    case Qt::Key_Insert: return 0x2D;
+    case Qt::Key_Delete: return 0x2E;
+    case Qt::Key_Asterisk: return keypad ? 0x6A : 0;
+    case Qt::Key_Plus: return keypad ? 0x6B : 0xBB;
+    case Qt::Key_Equal: return 0xBB;
+    case Qt::Key_Minus: return keypad ? 0x6D : 0xBD;
+    case Qt::Key_Period: return keypad ? 0x6E : 0xBE;
+    case Qt::Key_Slash: return keypad ? 0x6F : 0xBF;
+    case Qt::Key_Comma: return 0xBC;
+    case Qt::Key_NumLock: return 0x90;
+    case Qt::Key_ScrollLock: return 0x91;
+    default: return 0;
+    }
+}
+
+namespace {
+
+// Shows, over a widget, the pixels a TControlCanvas changed; mouse input
+// passes through to what is beneath.
+class CanvasOverlay : public QWidget
+{
+public:
+    explicit CanvasOverlay(QWidget *over) : QWidget(over)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_NoSystemBackground);
+        setGeometry(over->rect());
+    }
+    void Show(const QImage &picture, const QRegion &changed)
+    {
+        FPicture = picture;
+        FChanged = changed;
+        setVisible(!changed.isEmpty());
+        raise();
+        if (!changed.isEmpty())
+            repaint();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter p(this);
+        p.setClipRegion(FChanged);
+        p.drawImage(0, 0, FPicture);
+    }
+
+private:
+    QImage FPicture;
+    QRegion FChanged;
+};
+
+} // namespace
+
+TControlCanvas::TControlCanvas(QWidget *widget) : FWidget(widget)
+{
+    FBase = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    if (FBase.size() != widget->size())
+        FBase = FBase.scaled(widget->size());
+    FPicture = FBase;
+    SetImage(&FPicture);
+}
+
+TControlCanvas::~TControlCanvas()
+{
+    delete FOverlay;
+}
+
+void TControlCanvas::Flush()
+{
+    QRegion changed;
+    for (int y = 0; y < FPicture.height(); ++y) {
+        const auto *a = reinterpret_cast<const QRgb *>(FPicture.constScanLine(y));
+        const auto *b = reinterpret_cast<const QRgb *>(FBase.constScanLine(y));
+        for (int x = 0; x < FPicture.width();) {
+            if (a[x] == b[x]) {
+                ++x;
+                continue;
+            }
+            const int from = x;
+            while (x < FPicture.width() && a[x] != b[x])
+                ++x;
+            changed += QRect(from, y, x - from, 1);
+        }
+    }
+    if (!FOverlay && !changed.isEmpty())
+        FOverlay = new CanvasOverlay(FWidget);
+    if (FOverlay)
+        static_cast<CanvasOverlay *>(FOverlay)->Show(FPicture, changed);
 }

@@ -30,9 +30,10 @@ using TCursor = int;
 // The Qt cursor for one of the platform's cursor numbers.
 Qt::CursorShape CursorShape(TCursor cursor);
 
-class TControl : public QWidget
+class TControl : public QWidget, public TComponentCore
 {
     Q_OBJECT
+    Q_PROPERTY(int Tag READ Tag WRITE SetTag)
 
 public:
     enum TMouseButton { mbLeft, mbRight, mbMiddle };
@@ -48,8 +49,7 @@ public:
 
     explicit TControl(QWidget *parent = nullptr);
 
-    bool IsDesigning() const { return FDesigning; }
-    virtual void SetDesigning(bool designing);
+    void SetDesigning(bool designing) override;
 
     TControlStyle ControlStyle() const { return FControlStyle; }
     void SetControlStyle(TControlStyle style);
@@ -62,9 +62,13 @@ public:
 
     int Left() const { return x(); }
     int Top() const { return y(); }
-    void SetLeft(int left) { move(left, y()); }
-    void SetTop(int top) { move(x(), top); }
-    void SetBounds(int left, int top, int width, int height) { setGeometry(left, top, width, height); }
+    void SetLeft(int left) { SetBounds(left, y(), width(), height()); }
+    void SetTop(int top) { SetBounds(x(), top, width(), height()); }
+    // Every change of place or size passes through here: from code, from a
+    // layout or from the designer (those at the latest before the control is
+    // next shown). A control that keeps its own size overrides it and calls
+    // the inherited one with the bounds it accepts.
+    virtual void SetBounds(int left, int top, int width, int height);
     TRect ClientRect() const { return Rect(0, 0, width(), height()); }
     TRect BoundsRect() const { return Bounds(x(), y(), width(), height()); }
 
@@ -94,10 +98,14 @@ public:
     virtual void SetVisible(bool visible) { setVisible(visible); }
 
     // Deferred repaint, and repaint at once.
-    void Invalidate() { update(); }
+    void Invalidate()
+    {
+        FPaintPending = true;
+        update();
+    }
     void Repaint() { repaint(); }
     void Refresh() { repaint(); }
-    // Paints what is pending now.
+    // Paints what is pending on this control now (nothing when nothing is).
     void Update();
     // Asks the parent to repaint the area under this control, erasing it.
     void InvalidateParentArea();
@@ -127,7 +135,18 @@ signals:
     void OnEndDrag(QObject *Sender, QObject *Target, int X, int Y);
 
 protected:
-    // Draws the whole picture; called with the off-screen canvas.
+    // The event hooks: each base version raises its event. Overrides call
+    // the inherited one where the event should still be raised.
+    virtual void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y);
+    virtual void MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y);
+    virtual void MouseMove(TShiftState Shift, int X, int Y);
+    virtual void Click();
+    virtual void DblClick();
+    virtual void MouseEnter();
+    virtual void MouseLeave();
+
+    // Draws the whole picture; called with the off-screen canvas. A control
+    // that is not opaque finds on the canvas what lies beneath it.
     virtual void Paint(TCanvas &canvas) { Q_UNUSED(canvas); }
     // True when Paint covers every pixel, so nothing under it need be drawn.
     virtual bool PaintsOpaque() const { return FControlStyle & csOpaque; }
@@ -138,6 +157,7 @@ protected:
 
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -152,15 +172,18 @@ protected:
 
 private:
     bool acceptsDrag(QDropEvent *event, TDragState state);
+    void boundsChanged();
     void paintInto(QImage &image);
+    void copyBeneath(QPainter &painter);
     void applyColor(TColor color);
     void adoptParentColor();
     void parentColorChanged(TColor color);
 
     TColor FColor = clBtnFace;
     bool FParentColor = true;
-    bool FDesigning = false;
     bool FClicked = false;
+    bool FPaintPending = false;
+    bool FInBounds = false;
     bool FShowHint = true;
     bool FParentShowHint = true;
     bool FDragging = false;
@@ -170,6 +193,7 @@ private:
     TControlStyle FControlStyle = csCaptureMouse | csClickEvents | csDoubleClicks;
     TCanvas *FCanvas = nullptr;
     QImage FBuffer;
+    QRect FBounds;
 };
 
 // A control without focus of its own (labels, cells, lamps).
@@ -180,33 +204,59 @@ public:
     explicit TGraphicControl(QWidget *parent = nullptr);
 };
 
-// A control that can take the keyboard focus.
+// A control that can take the keyboard focus. Keys arrive as the
+// platform's virtual-key codes (VK_LEFT ...), typed characters as
+// Windows-1252 codes; a handler that sets Key to 0 consumes it.
 class TCustomControl : public TControl
 {
     Q_OBJECT
 public:
     explicit TCustomControl(QWidget *parent = nullptr);
-};
 
-// The face a non-visual component shows on a form: a small tile with the
-// component's name in the designer, nothing at all at run time. The face
-// owns the component.
-class TComponentFace : public QWidget
-{
-    Q_OBJECT
-public:
-    TComponentFace(TComponent *component, QWidget *parent = nullptr);
-
-    TComponent *Component() const { return FComponent; }
-    bool IsDesigning() const { return FDesigning; }
-    void SetDesigning(bool designing);
-
-    QSize sizeHint() const override { return QSize(28, 28); }
+signals:
+    void OnKeyDown(QObject *Sender, quint16 &Key, int Shift);
+    void OnKeyPress(QObject *Sender, char &Key);
+    void OnKeyUp(QObject *Sender, quint16 &Key, int Shift);
+    void OnEnter(QObject *Sender);
+    void OnExit(QObject *Sender);
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    virtual void KeyDown(quint16 &Key, TShiftState Shift);
+    virtual void KeyPress(char &Key);
+    virtual void KeyUp(quint16 &Key, TShiftState Shift);
+    virtual void DoEnter();
+    virtual void DoExit();
+
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+};
+
+// The platform's virtual-key code of a Qt key (0 when it has none).
+quint16 VirtualKey(int qtKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+// A canvas on a widget as it is on the screen, for drawing outside painting
+// (drag feedback, drawing on another control). It starts with the widget's
+// current picture, children included; Flush shows what was drawn over the
+// widget until the canvas is flushed again or destroyed, and pixels drawn
+// back to what they were show the widget itself again (so XOR feedback
+// drawn twice disappears). Destroying the canvas removes what it showed.
+class TControlCanvas : public TCanvas
+{
+public:
+    explicit TControlCanvas(QWidget *widget);
+    ~TControlCanvas();
+    TControlCanvas(const TControlCanvas &) = delete;
+    TControlCanvas &operator=(const TControlCanvas &) = delete;
+
+    QWidget *Widget() const { return FWidget; }
+    // Puts the drawing on the screen now.
+    void Flush();
 
 private:
-    TComponent *FComponent;
-    bool FDesigning = false;
+    QWidget *FWidget;
+    QImage FBase;
+    QImage FPicture;
+    QWidget *FOverlay = nullptr;
 };

@@ -104,7 +104,7 @@ long double Factorial(qint32 n)
 
 // --------------------------------------------------------------- TqCalc
 
-TqCalc::TqCalc(QObject *owner) : TComponent(owner) {}
+TqCalc::TqCalc(QWidget *owner) : TComponent(owner) {}
 
 void TqCalc::SetCalcLine(const QString &line)
 {
@@ -369,13 +369,4 @@ void TqCalc::SetRegisterNum(int n, long double value)
 {
     if (n >= 1 && n <= RegisterCount)
         FRegisters[size_t(n - 1)] = value;
-}
-
-// ----------------------------------------------------------- TqCalcFace
-
-TqCalcFace::TqCalcFace(QWidget *parent)
-    : TComponentFace(new TqCalc, parent), FCalc(static_cast<TqCalc *>(Component()))
-{
-    connect(FCalc, &TqCalc::OnError, this, &TqCalcFace::OnError);
-    connect(FCalc, &TqCalc::OnOK, this, &TqCalcFace::OnOK);
 }

@@ -65,7 +65,7 @@ public:
     static constexpr int MaxLineLength = 254;
     static constexpr int RegisterCount = 9;
 
-    explicit TqCalc(QObject *owner = nullptr);
+    explicit TqCalc(QWidget *owner = nullptr);
 
     bool PushResult() const { return FPushResult; }
     void SetPushResult(bool push) { FPushResult = push; }
@@ -153,56 +153,3 @@ private:
     std::array<long double, RegisterCount> FRegisters{};
 };
 
-// The calculator's face on a form.
-class TqCalcFace : public TComponentFace
-{
-    Q_OBJECT
-    Q_PROPERTY(bool PushResult READ PushResult WRITE SetPushResult)
-    Q_PROPERTY(QString CalcLine READ CalcLine WRITE SetCalcLine)
-    Q_PROPERTY(QString FormatLine READ FormatLine WRITE SetFormatLine)
-    Q_PROPERTY(double RegisterANum READ RegisterANum WRITE SetRegisterANum)
-    Q_PROPERTY(double RegisterBNum READ RegisterBNum WRITE SetRegisterBNum)
-    Q_PROPERTY(double RegisterCNum READ RegisterCNum WRITE SetRegisterCNum)
-    Q_PROPERTY(double RegisterDNum READ RegisterDNum WRITE SetRegisterDNum)
-    Q_PROPERTY(double RegisterFNum READ RegisterFNum WRITE SetRegisterFNum)
-    Q_PROPERTY(double RegisterGNum READ RegisterGNum WRITE SetRegisterGNum)
-    Q_PROPERTY(double RegisterHNum READ RegisterHNum WRITE SetRegisterHNum)
-    Q_PROPERTY(double RegisterINum READ RegisterINum WRITE SetRegisterINum)
-    Q_PROPERTY(double RegisterJNum READ RegisterJNum WRITE SetRegisterJNum)
-
-public:
-    explicit TqCalcFace(QWidget *parent = nullptr);
-    TqCalc *Calc() const { return FCalc; }
-
-    bool PushResult() const { return FCalc->PushResult(); }
-    void SetPushResult(bool v) { FCalc->SetPushResult(v); }
-    QString CalcLine() const { return FCalc->CalcLine(); }
-    void SetCalcLine(const QString &v) { FCalc->SetCalcLine(v); }
-    QString FormatLine() const { return FCalc->FormatLine(); }
-    void SetFormatLine(const QString &v) { FCalc->SetFormat(v); }
-    double RegisterANum() const { return double(FCalc->RegisterNum(1)); }
-    double RegisterBNum() const { return double(FCalc->RegisterNum(2)); }
-    double RegisterCNum() const { return double(FCalc->RegisterNum(3)); }
-    double RegisterDNum() const { return double(FCalc->RegisterNum(4)); }
-    double RegisterFNum() const { return double(FCalc->RegisterNum(5)); }
-    double RegisterGNum() const { return double(FCalc->RegisterNum(6)); }
-    double RegisterHNum() const { return double(FCalc->RegisterNum(7)); }
-    double RegisterINum() const { return double(FCalc->RegisterNum(8)); }
-    double RegisterJNum() const { return double(FCalc->RegisterNum(9)); }
-    void SetRegisterANum(double v) { FCalc->SetRegisterNum(1, v); }
-    void SetRegisterBNum(double v) { FCalc->SetRegisterNum(2, v); }
-    void SetRegisterCNum(double v) { FCalc->SetRegisterNum(3, v); }
-    void SetRegisterDNum(double v) { FCalc->SetRegisterNum(4, v); }
-    void SetRegisterFNum(double v) { FCalc->SetRegisterNum(5, v); }
-    void SetRegisterGNum(double v) { FCalc->SetRegisterNum(6, v); }
-    void SetRegisterHNum(double v) { FCalc->SetRegisterNum(7, v); }
-    void SetRegisterINum(double v) { FCalc->SetRegisterNum(8, v); }
-    void SetRegisterJNum(double v) { FCalc->SetRegisterNum(9, v); }
-
-signals:
-    void OnError(QObject *Sender, const QString &CalcLine, quint8 Where);
-    void OnOK(QObject *Sender);
-
-private:
-    TqCalc *FCalc;
-};

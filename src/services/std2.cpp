@@ -46,7 +46,7 @@ QThread::Priority ToQThreadPriority(TqcTimer::TThreadPriority priority)
 
 // ---------------------------------------------------------------- TqcTimer
 
-TqcTimer::TqcTimer(QObject *owner) : TComponent(owner)
+TqcTimer::TqcTimer(QWidget *owner) : TComponent(owner)
 {
     FThread = std::make_unique<TqcTimerThread>(this);
 }
@@ -239,28 +239,3 @@ bool TqcTimerThread::synchronizeTick()
     return !shared->stop;
 }
 
-// ------------------------------------------------------------ TqcTimerFace
-
-TqcTimerFace::TqcTimerFace(QWidget *parent)
-    : TComponentFace(new TqcTimer, parent), FTimer(static_cast<TqcTimer *>(Component()))
-{
-}
-
-void TqcTimerFace::connectNotify(const QMetaMethod &signal)
-{
-    if (signal == QMetaMethod::fromSignal(&TqcTimerFace::OnTimer) && FListeners++ == 0)
-        FForward = connect(FTimer, &TqcTimer::OnTimer, this, &TqcTimerFace::OnTimer);
-}
-
-void TqcTimerFace::disconnectNotify(const QMetaMethod &signal)
-{
-    if (signal != QMetaMethod::fromSignal(&TqcTimerFace::OnTimer) || FListeners == 0)
-        return;
-    if (--FListeners == 0) {
-        // Not from inside Qt's notification: the forward is another connection.
-        QMetaObject::invokeMethod(this, [this] {
-            if (FListeners == 0 && FForward)
-                disconnect(std::exchange(FForward, {}));
-        }, Qt::QueuedConnection);
-    }
-}

@@ -31,7 +31,7 @@ public:
     enum TThreadPriority { tpIdle, tpLowest, tpLower, tpNormal, tpHigher, tpHighest, tpTimeCritical };
     Q_ENUM(TThreadPriority)
 
-    explicit TqcTimer(QObject *owner = nullptr);
+    explicit TqcTimer(QWidget *owner = nullptr);
     ~TqcTimer() override;
 
     TThreadPriority Priority() const { return FPriority.load(); }
@@ -98,35 +98,3 @@ private:
     std::shared_ptr<Shared> FShared;
 };
 
-// The timer's face on a form.
-class TqcTimerFace : public TComponentFace
-{
-    Q_OBJECT
-    Q_PROPERTY(TqcTimer::TThreadPriority Priority READ Priority WRITE SetPriority)
-    Q_PROPERTY(bool Enabled READ Enabled WRITE SetEnabled)
-    Q_PROPERTY(uint Interval READ Interval WRITE SetInterval)
-
-public:
-    explicit TqcTimerFace(QWidget *parent = nullptr);
-    TqcTimer *Timer() const { return FTimer; }
-
-    TqcTimer::TThreadPriority Priority() const { return FTimer->Priority(); }
-    void SetPriority(TqcTimer::TThreadPriority p) { FTimer->SetPriority(p); }
-    bool Enabled() const { return FTimer->Enabled(); }
-    void SetEnabled(bool e) { FTimer->SetEnabled(e); }
-    uint Interval() const { return FTimer->Interval(); }
-    void SetInterval(uint i) { FTimer->SetInterval(i); }
-
-signals:
-    void OnTimer(QObject *Sender);
-
-protected:
-    // The timer ticks only while someone listens to the face's OnTimer.
-    void connectNotify(const QMetaMethod &signal) override;
-    void disconnectNotify(const QMetaMethod &signal) override;
-
-private:
-    TqcTimer *FTimer;
-    QMetaObject::Connection FForward;
-    int FListeners = 0;
-};

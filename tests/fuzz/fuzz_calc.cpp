@@ -3,10 +3,20 @@
 // the stored line.
 #include "services/mystd.h"
 
+#include <QApplication>
 #include <QMetaEnum>
 
 #include <cstdint>
 #include <cstdlib>
+
+// The calculator is a component, and components are widgets: they need an
+// application object (off-screen, no display).
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QApplication app(*argc, *argv);
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
