@@ -2,7 +2,7 @@
 
 TqCustomCellLabel::TqCustomCellLabel(QWidget *parent) : TCustomControl(parent)
 {
-    SetControlStyle(ControlStyle() & ~csOpaque);
+    SetControlStyle(ControlStyle() | csOpaque);   // Paint covers every pixel
     setFocusPolicy(Qt::NoFocus);
     TControl::SetColor(clBlack);
 }

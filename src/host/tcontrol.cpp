@@ -118,6 +118,7 @@ void TControl::SetControlStyle(TControlStyle style)
 
 void TControl::UpdateOpacity()
 {
+    FPictureValid = false;
     setAttribute(Qt::WA_OpaquePaintEvent, PaintsOpaque());
 }
 
@@ -309,11 +310,16 @@ void TControl::paintEvent(QPaintEvent *)
     if (width() <= 0 || height() <= 0)
         return;
     QPainter painter(this);
-    if (FBuffer.size() != size())
+    const bool opaque = PaintsOpaque();
+    if (FBuffer.size() != size()) {
         FBuffer = QImage(size(), QImage::Format_RGB32);
-    if (!PaintsOpaque())
+        FPictureValid = false;
+    }
+    if (!opaque)
         copyBeneath(painter);
-    paintInto(FBuffer);
+    if (!opaque || !FPictureValid)
+        paintInto(FBuffer);
+    FPictureValid = opaque;
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(0, 0, FBuffer);
 }
@@ -342,6 +348,16 @@ QImage TControl::RenderImage(QRgb background)
 
 bool TControl::event(QEvent *event)
 {
+    switch (event->type()) {
+    case QEvent::PaletteChange:        // system colours follow the palette
+    case QEvent::ApplicationPaletteChange:
+    case QEvent::EnabledChange:
+    case QEvent::FontChange:
+        Invalidate();
+        break;
+    default:
+        break;
+    }
     if (event->type() == QEvent::ParentChange)
         adoptParentColor();
     if (event->type() == QEvent::ToolTip && !ShowHint())

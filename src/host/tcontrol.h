@@ -101,10 +101,15 @@ public:
     void Invalidate()
     {
         FPaintPending = true;
+        FPictureValid = false;
         update();
     }
-    void Repaint() { repaint(); }
-    void Refresh() { repaint(); }
+    void Repaint()
+    {
+        FPictureValid = false;
+        repaint();
+    }
+    void Refresh() { Repaint(); }
     // Paints what is pending on this control now (nothing when nothing is).
     void Update();
     // Asks the parent to repaint the area under this control, erasing it.
@@ -183,6 +188,9 @@ private:
     bool FParentColor = true;
     bool FClicked = false;
     bool FPaintPending = false;
+    // An opaque control's last picture stays good until it is invalidated,
+    // so showing it again (an exposure, a repaint of the parent) is one copy.
+    bool FPictureValid = false;
     bool FInBounds = false;
     bool FShowHint = true;
     bool FParentShowHint = true;
