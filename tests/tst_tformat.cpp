@@ -3,6 +3,9 @@
 
 #include <QtTest>
 
+#include <clocale>
+#include <cmath>
+
 class tst_TFormat : public QObject
 {
     Q_OBJECT
@@ -10,6 +13,7 @@ private slots:
     void formats_data();
     void formats();
     void localeSeparators();
+    void processLocaleAndHugeValues();
     void rejects_data();
     void rejects();
 };
@@ -90,6 +94,24 @@ void tst_TFormat::rejects()
     QString out = QStringLiteral("untouched");
     QVERIFY(!FormatFloat(format, 1.0L, out, QLocale::c()));
     QCOMPARE(out, QStringLiteral("untouched"));
+}
+
+// The C library's locale must not leak into the text; values beyond a
+// double keep their digits.
+void tst_TFormat::processLocaleAndHugeValues()
+{
+    const QByteArray saved = std::setlocale(LC_ALL, nullptr);
+    if (!std::setlocale(LC_ALL, "de_DE.UTF-8"))
+        QSKIP("de_DE.UTF-8 is not installed (scripts/setup.sh installs locales-all)");
+    QString out;
+    QVERIFY(FormatFloat(QStringLiteral("%f"), 1.0L, out, QLocale::c()));
+    QCOMPARE(out, QStringLiteral("1.00"));
+    QVERIFY(FormatFloat(QStringLiteral("%n"), -1234.567L, out, QLocale::c()));
+    QCOMPARE(out, QStringLiteral("-1,234.57"));
+    std::setlocale(LC_ALL, saved.constData());
+    QVERIFY(FormatFloat(QStringLiteral("%m"), std::pow(10.0L, 400), out, QLocale(QLocale::English, QLocale::UnitedStates)));
+    QVERIFY2(out.startsWith(QStringLiteral("$1.00000000000000E+400")) || out.contains(QStringLiteral("E+400")), qPrintable(out));
+    QVERIFY(!out.contains(QStringLiteral("inf"), Qt::CaseInsensitive));
 }
 
 QTEST_APPLESS_MAIN(tst_TFormat)

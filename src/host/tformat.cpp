@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <clocale>
 #include <cstdio>
+#include <cstring>
+#include <limits>
 
 #include <QRegularExpression>
 #include <QTime>
@@ -64,7 +67,11 @@ QString fixed(long double v, int decimals, bool grouped, const QLocale &locale)
         return scientific(v, 15, locale);
     char buf[128];
     std::snprintf(buf, sizeof buf, "%.*Lf", decimals, std::fabs(v));
+    // The C library writes the process locale's decimal point; the text is
+    // read with '.' and gets the Qt locale's separator below.
     QString text = QString::fromLatin1(buf);
+    if (const char *point = std::localeconv()->decimal_point; point && *point && std::strcmp(point, ".") != 0)
+        text.replace(QString::fromLatin1(point), QStringLiteral("."));
     QString integer = text.section(QLatin1Char('.'), 0, 0);
     const QString fraction = text.section(QLatin1Char('.'), 1);
     const bool zero = std::all_of(text.begin(), text.end(),
@@ -76,6 +83,17 @@ QString fixed(long double v, int decimals, bool grouped, const QLocale &locale)
     if (decimals > 0)
         s += locale.decimalPoint() + fraction;
     return s;
+}
+
+// The locale's currency format; values beyond a double keep their digits,
+// placed where the locale puts the amount of one unit.
+QString currency(long double v, int decimals, const QLocale &locale)
+{
+    if (std::fabs(v) <= std::numeric_limits<double>::max())
+        return locale.toCurrencyString(double(v), locale.currencySymbol(), decimals);
+    const QString pattern = locale.toCurrencyString(v < 0 ? -1.0 : 1.0, locale.currencySymbol(), decimals);
+    const QString one = fixed(1, decimals, true, locale);
+    return QString(pattern).replace(one, fixed(std::fabs(v), decimals, true, locale));
 }
 
 QString general(long double v, int precision, const QLocale &locale)
@@ -194,8 +212,7 @@ bool FormatFloat(const QString &format, long double value, QString &out, const Q
                           : special(value);
             break;
         case 'm':
-            text = finite ? locale.toCurrencyString(double(value), locale.currencySymbol(),
-                                                    std::clamp(precision < 0 ? 2 : precision, 0, kMaxDigits))
+            text = finite ? currency(value, std::clamp(precision < 0 ? 2 : precision, 0, kMaxDigits), locale)
                           : special(value);
             break;
         default:

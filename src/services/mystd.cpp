@@ -7,6 +7,16 @@
 
 namespace {
 
+// Upper case by ASCII rules, whatever the process locale: under a Turkish
+// locale the C library would leave "i" alone (its capital is not ASCII).
+char asciiUpper(QChar ch)
+{
+    const char16_t u = ch.unicode();
+    if (u >= 'a' && u <= 'z')
+        return char(u - 'a' + 'A');
+    return u < 128 ? char(u) : '\0';
+}
+
 constexpr long double kPi = 3.141592653589793238462643383279502884L;
 constexpr int kMaxNameLength = 7;
 constexpr int kFirstFunction = 11;
@@ -143,10 +153,12 @@ QChar TqCalc::NaesteTegn()
     return current();
 }
 
-// The end mark is never consumed, so the cursor stays on the line.
+// Consuming goes past the end mark too (an unclosed "(1+2" ends one past
+// it). The cursor is 8 bits wide: on a line of the full 254 characters it
+// stops at 255, the end mark, instead of wrapping round to 0.
 void TqCalc::consume()
 {
-    if (FCursor < FLine.size())
+    if (FCursor < 255)
         ++FCursor;
 }
 
@@ -194,7 +206,7 @@ long double TqCalc::Led()
 long double TqCalc::Faktor()
 {
     const QChar next = NaesteTegn();
-    const char c = next.unicode() < 128 ? char(std::toupper(next.toLatin1())) : '\0';
+    const char c = asciiUpper(next);
     long double value;
     if (c == '(') {
         value = Parantes();
@@ -263,7 +275,7 @@ int TqCalc::FuncNr()
     QString name;
     for (;;) {
         const QChar ch = current();
-        const char c = ch.unicode() < 128 ? char(std::toupper(ch.toLatin1())) : '\0';
+        const char c = asciiUpper(ch);
         if (c < 'A' || c > 'Z')
             break;
         if (name.size() < kMaxNameLength)   // CEILINGS( acts as CEILING(

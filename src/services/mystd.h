@@ -131,7 +131,8 @@ private:
     QChar NaesteTegn();       // next character after spaces, not consumed
     int FuncNr();             // index of the name at the cursor
 
-    QChar current() const { return FLine[FCursor - 1]; }
+    // Past the stored line, the end mark again.
+    QChar current() const { return FCursor <= FLine.size() ? FLine[FCursor - 1] : QChar(u'\r'); }
     void consume();
     void fail(TqCalcResult code) { FCalcResult = code; }
     long double applyName(int index, long double argument);

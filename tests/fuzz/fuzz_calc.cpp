@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMetaEnum>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 
@@ -29,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (result < TqCalc::TqcOK || result > TqCalc::TqcOverFlow)
         std::abort();
     const int where = calc.WhereIsLastError();
-    if (where < 1 || where > calc.CalcLine().size() + 1)
+    if (where < 1 || where > std::min<int>(calc.CalcLine().size() + 2, 255))
         std::abort();
     if (calc.CalcLine().size() > TqCalc::MaxLineLength)
         std::abort();
