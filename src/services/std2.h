@@ -3,6 +3,7 @@
 // the shared steel texture.
 
 #include "host/tcontrol.h"
+#include "host/tsteel.h"
 
 #include <QImage>
 #include <QThread>
@@ -10,10 +11,6 @@
 #include <atomic>
 #include <memory>
 
-// The 8 x 8 steel texture: silver with a white pixel wherever x and y are
-// both odd. Made once when the library loads; controls use it as a brush
-// bitmap and clear the brush bitmap afterwards.
-const QImage &TSteel();
 
 // Sleeps the calling thread without processing any events.
 void Delay(quint16 milliseconds);
