@@ -19,7 +19,6 @@ private slots:
     void destroyWhileTheWorkerWaits();
     void deleteLaterFromTheHandler();
     void intervalChangeTakesEffect();
-    void steelTexture();
     void delayBlocksWithoutEvents();
 };
 
@@ -171,16 +170,6 @@ void tst_QcTimer::intervalChangeTakesEffect()
     QTRY_VERIFY_WITH_TIMEOUT(ticks >= 3, 10000);
     timer.SetInterval(0);
     QVERIFY(!timer.Ticking());
-}
-
-void tst_QcTimer::steelTexture()
-{
-    const QImage &steel = TSteel();
-    QCOMPARE(steel.size(), QSize(8, 8));
-    for (int y = 0; y < 8; ++y)
-        for (int x = 0; x < 8; ++x)
-            QCOMPARE(steel.pixel(x, y), ColorToQRgb((x & 1) && (y & 1) ? clWhite : clSilver));
-    QCOMPARE(&TSteel(), &steel);   // one texture for the whole process
 }
 
 void tst_QcTimer::delayBlocksWithoutEvents()

@@ -22,7 +22,6 @@ private slots:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
     void cleanup() { TClockWork::SetDefaultSource({}); }
     void runtimeAndDesignTime();
-    void publishedProperties();
     void caption_data();
     void caption();
     void sizeAndLayout();
@@ -45,22 +44,6 @@ void tst_QcDotLabel::runtimeAndDesignTime()
     DesignTimeCreation designer;
     TqcDotLabel designed;
     QCOMPARE(shown(designed), QStringLiteral("QuovarSoft "));
-}
-
-void tst_QcDotLabel::publishedProperties()
-{
-    const auto names = [](const QMetaObject &mo) {
-        QStringList out;
-        for (int i = mo.propertyOffset(); i < mo.propertyCount(); ++i)
-            out << QString::fromLatin1(mo.property(i).name());
-        return out;
-    };
-    QCOMPARE(names(TqcDotLabel::staticMetaObject),
-             (QStringList{"Width", "Height", "Cursor", "Hint", "Caption", "Color", "LitColor", "NumberOfChars",
-                          "ParentColor", "ParentShowHint", "ShowHint", "Size", "Visible", "UnLitColor"}));
-    QCOMPARE(names(TqcDotClock::staticMetaObject),
-             (QStringList{"Width", "Height", "Cursor", "Hint", "Priority", "Color", "ShowSeconds", "ShowHint",
-                          "ParentShowHint", "Visible", "ParentColor", "LitColor", "UnLitColor", "Size"}));
 }
 
 void tst_QcDotLabel::caption_data()

@@ -19,13 +19,7 @@ class tst_QcDotSegment : public QObject
 {
     Q_OBJECT
 private slots:
-    void newCell();
-    void publishedProperties();
-    void geometry_data();
-    void geometry();
     void widthAndHeightUseFixedDivisors();
-    void fontTable_data();
-    void fontTable();
     void everyCodeHasAGlyph();
     void zeroLightsItsRows();
     void styles();
@@ -33,74 +27,6 @@ private slots:
     void transparent();
     void changeADotCharLook();
 };
-
-void tst_QcDotSegment::newCell()
-{
-    TqcDotSegment cell;
-    QCOMPARE(cell.size(), QSize(23, 29));
-    QCOMPARE(cell.Char(), qChar(' '));
-    QCOMPARE(cell.Look(), TDotLook(0));
-    QCOMPARE(cell.Style(), qcdsRound);
-    QVERIFY(cell.UseGap());
-    QCOMPARE(cell.LitColor(), clLime);
-    QCOMPARE(cell.UnLitColor(), TColor(0x002000));
-    QCOMPARE(cell.Color(), clBlack);
-    const QImage img = cell.RenderImage(qRgb(255, 0, 255));
-    // 63 dots of 2 x 2 at X = 1, 4 ... 19 and Y = 1, 4 ... 25, black between.
-    int unlit = 0;
-    for (int y = 0; y < 29; ++y)
-        for (int x = 0; x < 23; ++x) {
-            const bool dot = x >= 1 && x <= 20 && y >= 1 && y <= 26 && (x - 1) % 3 < 2 && (y - 1) % 3 < 2;
-            QCOMPARE(img.pixel(x, y), dot ? kUnlit : kBlack);
-            unlit += dot;
-        }
-    QCOMPARE(unlit, 63 * 4);
-}
-
-void tst_QcDotSegment::publishedProperties()
-{
-    const QMetaObject &mo = TqcDotSegment::staticMetaObject;
-    QStringList names;
-    for (int i = mo.propertyOffset(); i < mo.propertyCount(); ++i)
-        names << QString::fromLatin1(mo.property(i).name());
-    QCOMPARE(names, (QStringList{"Width", "Height", "Hint", "DragCursor", "DragMode", "Char", "Color", "LitColor",
-                                 "ParentColor", "ParentShowHint", "ShowHint", "Transparent", "Visible",
-                                 "UnLitColor", "Size", "UseGap", "Style"}));
-    const QMetaEnum e = QMetaEnum::fromType<TqcDotSegment::qcDotStyle>();
-    QCOMPARE(QString::fromLatin1(e.valueToKey(0)) + e.valueToKey(1) + e.valueToKey(2),
-             QStringLiteral("qcdsDotqcdsRectqcdsRound"));
-}
-
-void tst_QcDotSegment::geometry_data()
-{
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<int>("pitch");
-    QTest::addColumn<QSize>("extent");
-    QTest::newRow("1") << 1 << 1 << 3 << QSize(23, 29);
-    QTest::newRow("2") << 2 << 1 << 4 << QSize(30, 38);
-    QTest::newRow("4") << 4 << 2 << 6 << QSize(46, 58);
-    QTest::newRow("25") << 25 << 12 << 27 << QSize(213, 267);
-    QTest::newRow("0") << 0 << 1 << 2 << QSize(16, 20);
-}
-
-void tst_QcDotSegment::geometry()
-{
-    QFETCH(int, size);
-    QFETCH(int, offset);
-    QFETCH(int, pitch);
-    QFETCH(QSize, extent);
-    const TDotGeometry g = DotGeometry(size);
-    for (int i = 0; i < 7; ++i)
-        QCOMPARE(g.X[size_t(i)], offset + i * pitch);
-    for (int j = 0; j < 9; ++j)
-        QCOMPARE(g.Y[size_t(j)], offset + j * pitch);
-    QCOMPARE(QSize(g.Width, g.Height), extent);
-    TqcDotSegment cell;
-    cell.move(7, 9);
-    cell.SetSize(qcDotSegSize(size));
-    QCOMPARE(cell.geometry(), QRect(QPoint(7, 9), extent));   // keeps its place
-}
 
 void tst_QcDotSegment::widthAndHeightUseFixedDivisors()
 {
@@ -115,29 +41,6 @@ void tst_QcDotSegment::widthAndHeightUseFixedDivisors()
     QCOMPARE(int(cell.Size()), 1);
     cell.SetWidth(cell.width());   // unchanged: nothing
     QCOMPARE(int(cell.Size()), 1);
-}
-
-void tst_QcDotSegment::fontTable_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<quint64>("look");
-    QTest::newRow("space") << 32 << quint64(0);
-    QTest::newRow("no-break space") << 160 << quint64(0);
-    QTest::newRow("zero") << int('0') << quint64(rows({0x1C, 0x22, 0x41, 0x41, 0x49, 0x41, 0x41, 0x22, 0x1C}));
-    QTest::newRow("A grave") << 0xC0 << quint64(rows({0x10, 0x08, 0x04, 0x3E, 0x41, 0x41, 0x7F, 0x41, 0x41}));
-    QTest::newRow("right double quote") << 0x94 << quint64(rows({0x24, 0x12, 0x36, 0x36, 0, 0, 0, 0, 0}));
-    QTest::newRow("bullet") << 0x95 << quint64(rows({0, 0, 0x1C, 0x3E, 0x3E, 0x3E, 0x1C, 0, 0}));
-    QTest::newRow("y diaeresis") << 0xFF << quint64(rows({0, 0x14, 0, 0x41, 0x22, 0x14, 0x08, 0x08, 0x08}));
-    QTest::newRow("no glyph is a box") << 0x9D << quint64(rows({0, 0x3E, 0x22, 0x22, 0x22, 0x22, 0x22, 0x3E, 0}));
-    QTest::newRow("DEL is a box too") << 0x7F << quint64(rows({0, 0x3E, 0x22, 0x22, 0x22, 0x22, 0x22, 0x3E, 0}));
-    QTest::newRow("below space") << 31 << quint64(0);
-}
-
-void tst_QcDotSegment::fontTable()
-{
-    QFETCH(int, code);
-    QFETCH(quint64, look);
-    QCOMPARE(quint64(DotCharLook(qChar(code))), look);
 }
 
 void tst_QcDotSegment::everyCodeHasAGlyph()

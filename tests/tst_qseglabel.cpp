@@ -35,9 +35,7 @@ class tst_QSegLabel : public QObject
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
     void cleanup() { TClockWork::SetDefaultSource({}); }
-    void runtimeDefaults();
     void designTimeCaption();
-    void publishedProperties();
     void cellsTouchAndFollowSize();
     void rebuildFreesOldCells();
     void zeroCellsKeepTheCaption();
@@ -55,44 +53,12 @@ private slots:
     void clockDisplay();
 };
 
-void tst_QSegLabel::runtimeDefaults()
-{
-    TqSegmentLabel label;
-    QCOMPARE(int(label.NumberOfChars()), 11);
-    QCOMPARE(label.size(), QSize(209, 29));
-    QCOMPARE(label.Caption(), QString());
-    QCOMPARE(cells(label), QStringList(11, QStringLiteral(" ")));
-    QCOMPARE(label.Color(), clBlack);
-    QCOMPARE(label.LitColor(), clLime);
-    QCOMPARE(label.UnLitColor(), TColor(0x002000));
-    QCOMPARE(int(label.Size()), 1);
-    QVERIFY(!label.ParentColor());
-    QVERIFY(label.ControlStyle() & csOpaque);
-    QVERIFY(label.ControlStyle() & csSetCaption);
-}
-
 void tst_QSegLabel::designTimeCaption()
 {
     DesignTimeCreation designer;
     TqSegmentLabel label;
     QCOMPARE(label.Caption(), QStringLiteral("QuovarSoft"));
     QCOMPARE(cells(label), (QStringList{"Q", "u", "o", "v", "a", "r", "S", "o", "f", "t", " "}));
-}
-
-void tst_QSegLabel::publishedProperties()
-{
-    const auto names = [](const QMetaObject &mo) {
-        QStringList out;
-        for (int i = mo.propertyOffset(); i < mo.propertyCount(); ++i)
-            out << QString::fromLatin1(mo.property(i).name());
-        return out;
-    };
-    QCOMPARE(names(TqSegmentLabel::staticMetaObject),
-             (QStringList{"Width", "Height", "Cursor", "Hint", "Caption", "Color", "LitColor", "NumberOfChars",
-                          "ParentColor", "ParentShowHint", "ShowHint", "Size", "Visible", "UnLitColor"}));
-    QCOMPARE(names(TqSegmentClock::staticMetaObject),
-             (QStringList{"Width", "Height", "Cursor", "Hint", "Priority", "Color", "ShowSeconds", "ShowHint",
-                          "ParentShowHint", "Visible", "ParentColor", "LitColor", "UnLitColor", "Size"}));
 }
 
 void tst_QSegLabel::cellsTouchAndFollowSize()

@@ -60,68 +60,20 @@ class tst_QSegment : public QObject
 {
     Q_OBJECT
 private slots:
-    void defaults();
-    void publishedPropertiesInOrder();
     void newCellShowsTheDarkPattern();
     void digitEightLightsItsElements();
-    void characterTable_data();
-    void characterTable();
     void codesBelowSpaceLightNothing();
     void punkturAndCharInterplay();
     void widthAndHeightPickTheSize_data();
     void widthAndHeightPickTheSize();
     void sameWidthDoesNothing();
     void sizeWrapsInEightBits();
-    void elementGeometry();
     void changeACharLook();
     void transparentShowsTheParent();
     void onPaintComesLastAndCanDraw();
     void unchangedValuesDoNotRepaint();
     void mouseEvents();
 };
-
-void tst_QSegment::defaults()
-{
-    TqSegment seg;
-    QCOMPARE(seg.width(), 19);
-    QCOMPARE(seg.height(), 29);
-    QCOMPARE(seg.Char(), qChar(' '));
-    QCOMPARE(seg.Color(), clBlack);
-    QCOMPARE(seg.LitColor(), clLime);
-    QCOMPARE(seg.UnLitColor(), TColor(0x002000));
-    QCOMPARE(seg.Punktur(), spNone);
-    QVERIFY(!seg.Transparent());
-    QCOMPARE(seg.Size(), qSegSize(1));
-    QCOMPARE(seg.Look(), TSegLook(0));
-    QVERIFY(seg.Visible());
-    QVERIFY(seg.ControlStyle() & csOpaque);
-    QVERIFY(seg.testAttribute(Qt::WA_OpaquePaintEvent));
-    QCOMPARE(seg.DragCursor(), -12);
-}
-
-void tst_QSegment::publishedPropertiesInOrder()
-{
-    const QMetaObject &mo = TqSegment::staticMetaObject;
-    QStringList names;
-    for (int i = mo.propertyOffset(); i < mo.propertyCount(); ++i)
-        names << QString::fromLatin1(mo.property(i).name());
-    QCOMPARE(names, (QStringList{"Width", "Height", "Hint", "DragCursor", "DragMode", "Char", "Color",
-                                 "LitColor", "ParentColor", "ParentShowHint", "Punktur", "ShowHint",
-                                 "Transparent", "Visible", "UnLitColor", "Size"}));
-    const QMetaEnum e = QMetaEnum::fromType<TqSegment::qSegPunktur>();
-    QCOMPARE(e.keyCount(), 3);
-    QCOMPARE(e.valueToKey(0), "spPunktum");
-    QCOMPARE(e.valueToKey(1), "spColon");
-    QCOMPARE(e.valueToKey(2), "spNone");
-    // Through the meta-object, as a loaded form sets them.
-    TqSegment seg;
-    QVERIFY(seg.setProperty("Char", QChar(u'7')));
-    QVERIFY(seg.setProperty("Punktur", QStringLiteral("spColon")));
-    QVERIFY(seg.setProperty("Size", 2));
-    QCOMPARE(seg.Char(), qChar('7'));
-    QCOMPARE(seg.Punktur(), spColon);
-    QCOMPARE(seg.width(), 38);
-}
 
 void tst_QSegment::newCellShowsTheDarkPattern()
 {
@@ -151,44 +103,6 @@ void tst_QSegment::digitEightLightsItsElements()
         seg.SetChar('8');
         QCOMPARE(litElements(seg), (QList<int>{1, 2, 4, 5, 6, 7, 9, 10}));
     }
-}
-
-void tst_QSegment::characterTable_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QList<int>>("elements");
-    QTest::newRow("space") << 32 << QList<int>{};
-    QTest::newRow("ampersand") << 38 << QList<int>{};
-    QTest::newRow("at") << 64 << QList<int>{};
-    QTest::newRow("no-break space") << 160 << QList<int>{};
-    QTest::newRow("slashed zero") << int('0') << QList<int>{1, 2, 4, 7, 9, 10, 12, 13};
-    QTest::newRow("letter O") << int('O') << QList<int>{1, 2, 4, 7, 9, 10};
-    QTest::newRow("o shares O") << int('o') << QList<int>{1, 2, 4, 7, 9, 10};
-    QTest::newRow("seven") << int('7') << QList<int>{1, 2, 4, 9};
-    QTest::newRow("comma") << int(',') << QList<int>{16};
-    QTest::newRow("full stop") << int('.') << QList<int>{16};
-    QTest::newRow("colon") << int(':') << QList<int>{15, 16};
-    QTest::newRow("semicolon") << int(';') << QList<int>{15, 16};
-    QTest::newRow("middle dot") << 0xB7 << QList<int>{15};
-    QTest::newRow("bullet") << 0x95 << QList<int>{15};
-    QTest::newRow("K") << int('K') << QList<int>{2, 5, 7, 12, 14};
-    QTest::newRow("asterisk") << int('*') << QList<int>{3, 5, 6, 8, 11, 12, 13, 14};
-    QTest::newRow("euro") << 0x80 << QList<int>{1, 2, 4, 7, 9, 10};
-    QTest::newRow("A grave") << 0xC0 << QList<int>{1, 2, 4, 5, 6, 7, 9};
-    QTest::newRow("eth") << 0xF0 << QList<int>{5, 6, 7, 9, 10, 11};
-    QTest::newRow("y diaeresis") << 0xFF << QList<int>{8, 11, 12};
-    QTest::newRow("tilde") << int('~') << QList<int>{1};
-}
-
-void tst_QSegment::characterTable()
-{
-    QFETCH(int, code);
-    QFETCH(QList<int>, elements);
-    QCOMPARE(elementsOf(CharLook(qChar(code))), elements);
-    TqSegment seg;
-    seg.SetChar(qChar(code));
-    QCOMPARE(elementsOf(seg.Look()), elements);
-    QCOMPARE(litElements(seg), elements);
 }
 
 void tst_QSegment::codesBelowSpaceLightNothing()
@@ -285,30 +199,6 @@ void tst_QSegment::sizeWrapsInEightBits()
     seg.SetSize(0);
     QCOMPARE(seg.size(), QSize(0, 0));
     QVERIFY(!seg.RenderImage().isNull());   // painting a collapsed cell is harmless
-}
-
-void tst_QSegment::elementGeometry()
-{
-    using P = std::vector<TPoint>;
-    QCOMPARE(SegmentElementPolygon(11, 1), (P{{6, 5}, {6, 6}, {5, 6}, {6, 12}, {6, 12}, {7, 12}}));
-    QCOMPARE(SegmentElementPolygon(11, 2), (P{{10, 12}, {10, 10}, {12, 10}, {14, 22}, {14, 26}, {12, 26}}));
-    QCOMPARE(SegmentElementPolygon(1, 3), (P{{6, 6}, {48, 6}, {42, 12}, {12, 12}}));
-    QCOMPARE(SegmentElementPolygon(2, 1), (P{{2, 4}, {4, 6}, {4, 12}, {2, 14}}));
-    QCOMPARE(SegmentElementPolygon(7, 1), (P{{2, 16}, {4, 18}, {4, 24}, {2, 26}}));
-    QCOMPARE(SegmentElementPolygon(5, 2), (P{{5, 30}, {7, 28}, {17, 28}, {17, 32}, {7, 32}}));
-    QCOMPARE(SegmentElementPolygon(6, 2), (P{{19, 28}, {29, 28}, {31, 30}, {29, 32}, {19, 32}}));
-    QCOMPARE(SegmentElementPolygon(14, 2), (P{{26, 48}, {26, 50}, {24, 50}, {22, 38}, {22, 34}, {24, 34}}));
-    QCOMPARE(SegmentElementPolygon(16, 1), (P{{18, 26}, {18, 26}, {18, 28}, {18, 28}}));
-    QCOMPARE(SegmentElementPolygon(16, 4), (P{{66, 104}, {72, 104}, {72, 112}, {66, 112}}));
-    QCOMPARE(SegmentElementPolygon(13, 0).size(), size_t(6));
-    QVERIFY(SegmentElementPolygon(17, 1).empty());
-    // Every element stays inside the cell.
-    for (int size = 1; size <= 4; ++size)
-        for (int n = 1; n <= 16; ++n)
-            for (const TPoint &p : SegmentElementPolygon(n, size)) {
-                QVERIFY(p.X >= 0 && p.X <= 19 * size);
-                QVERIFY(p.Y >= 0 && p.Y <= 29 * size);
-            }
 }
 
 void tst_QSegment::changeACharLook()
