@@ -1,4 +1,5 @@
 #include "tcanvas.h"
+#include "tregion.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -188,18 +189,6 @@ Spans regionSpans(const QRegion &r)
     return spans;
 }
 
-QRegion spansRegion(const Spans &spans)
-{
-    std::vector<QRect> rects;
-    rects.reserve(spans.size());
-    for (const Span &s : spans)
-        if (s.x1 >= s.x0)
-            rects.emplace_back(s.x0, s.y, s.x1 - s.x0 + 1, 1);
-    QRegion r;
-    r.setRects(rects.data(), int(rects.size()));
-    return r;
-}
-
 } // namespace
 
 void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
@@ -272,8 +261,8 @@ QRegion TCanvas::wideOutline(const Raster::Points &points, bool close) const
     while (pts.size() > 2 && pts[pts.size() - 1] == pts[pts.size() - 2])
         pts.pop_back();
     const int w = Pen.Width();
-    const QRegion tip = spansRegion(Raster::RoundRectRegionSpans(
-        -(w / 2), -(w / 2), (w + 1) / 2 + 1, (w + 1) / 2 + 1, w + 1, w + 1));
+    const QRegion tip = TRegion(Raster::RoundRectRegionSpans(
+        -(w / 2), -(w / 2), (w + 1) / 2 + 1, (w + 1) / 2 + 1, w + 1, w + 1)).ToQRegion();
     QRegion out;
     const size_t n = pts.size();
     const size_t segments = close ? n : n - 1;
@@ -306,7 +295,7 @@ QRegion TCanvas::wideOutline(const Raster::Points &points, bool close) const
             }
             const TPoint band[4] = {{p.X - narrow.X, p.Y + narrow.Y}, {p.X + wide.X, p.Y - wide.Y},
                                     {q.X + wide.X, q.Y - wide.Y}, {q.X - narrow.X, q.Y + narrow.Y}};
-            out += spansRegion(Raster::PolygonSpans(band, 4));
+            out += TRegion(Raster::PolygonSpans(band, 4)).ToQRegion();
         }
     }
     return out;
@@ -351,8 +340,18 @@ void TCanvas::fillAndStroke(const Raster::Points &outline, bool close, const Spa
     }
     const QRegion pen = wideOutline(outline, close);
     if (brush)
-        plot(regionSpans(spansRegion(inside) - pen), Source::brush(Brush), penRop());
+        plot(regionSpans(TRegion(inside).ToQRegion() - pen), Source::brush(Brush), penRop());
     plot(regionSpans(pen), Source::solid(Pen.Color()), penRop());
+}
+
+// An open path with the pen alone: lines, polylines, arcs.
+void TCanvas::strokeOpen(const Raster::Points &pts)
+{
+    FDashPhase = 0;
+    if (widePen())
+        plot(regionSpans(wideOutline(pts, false)), Source::solid(Pen.Color()), penRop());
+    else
+        thinLines(pts, false);
 }
 
 void TCanvas::LineTo(int x, int y)
@@ -365,12 +364,7 @@ void TCanvas::Polyline(const TPoint *points, int count)
 {
     if (!points || count < 2)
         return;
-    const Raster::Points pts(points, points + count);
-    FDashPhase = 0;
-    if (widePen())
-        plot(regionSpans(wideOutline(pts, false)), Source::solid(Pen.Color()), penRop());
-    else
-        thinLines(pts, false);
+    strokeOpen(Raster::Points(points, points + count));
 }
 
 void TCanvas::Polygon(const TPoint *points, int count)
@@ -450,13 +444,8 @@ void TCanvas::Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4
 {
     TRect r;
     const Raster::Points pts = arcPoints(x1, y1, x2, y2, x3, y3, x4, y4, r);
-    if (pts.size() < 2)
-        return;
-    FDashPhase = 0;
-    if (widePen())
-        plot(regionSpans(wideOutline(pts, false)), Source::solid(Pen.Color()), penRop());
-    else
-        thinLines(pts, false);
+    if (pts.size() >= 2)
+        strokeOpen(pts);
 }
 
 void TCanvas::Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)

@@ -188,6 +188,7 @@ private:
     bool penRect(int x1, int y1, int x2, int y2, TRect &r) const;
     QRegion wideOutline(const Raster::Points &points, bool close) const;
     void thinLines(const Raster::Points &points, bool close);
+    void strokeOpen(const Raster::Points &points);
     void fillAndStroke(const Raster::Points &outline, bool close, const Raster::Spans &inside);
     Raster::Points arcPoints(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4, TRect &r) const;
     void textBackground(const QRect &r);

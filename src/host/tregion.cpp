@@ -7,7 +7,8 @@ TRegion::TRegion(const Raster::Spans &spans)
     std::vector<QRect> rects;
     rects.reserve(spans.size());
     for (const Raster::Span &s : spans)
-        rects.emplace_back(s.x0, s.y, s.x1 - s.x0 + 1, 1);
+        if (s.x1 >= s.x0)
+            rects.emplace_back(s.x0, s.y, s.x1 - s.x0 + 1, 1);
     FRegion.setRects(rects.data(), int(rects.size()));
 }
 
