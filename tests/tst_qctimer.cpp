@@ -9,8 +9,7 @@ class tst_QcTimer : public QObject
 {
     Q_OBJECT
 private slots:
-    void ticksOnTheMainThread();
-    void ticksAreAtLeastAnIntervalApart();
+    void ticksOnTheMainThreadAnIntervalApart();
     void noTickWhileAConditionFails_data();
     void noTickWhileAConditionFails();
     void connectingOnTimerStartsTicks();
@@ -22,28 +21,18 @@ private slots:
     void delayBlocksWithoutEvents();
 };
 
-void tst_QcTimer::ticksOnTheMainThread()
-{
-    TqcTimer timer;
-    timer.SetInterval(10);
-    int ticks = 0;
-    connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *sender) {
-        QCOMPARE(sender, &timer);
-        QCOMPARE(QThread::currentThread(), qApp->thread());
-        ++ticks;
-    });
-    QVERIFY(timer.Ticking());
-    QTRY_VERIFY_WITH_TIMEOUT(ticks >= 3, 5000);
-}
-
-void tst_QcTimer::ticksAreAtLeastAnIntervalApart()
+void tst_QcTimer::ticksOnTheMainThreadAnIntervalApart()
 {
     TqcTimer timer;
     timer.SetInterval(25);
     QElapsedTimer clock;
     QList<qint64> stamps;
     clock.start();
-    connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *) { stamps << clock.elapsed(); });
+    connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *sender) {
+        QCOMPARE(sender, &timer);
+        QCOMPARE(QThread::currentThread(), qApp->thread());
+        stamps << clock.elapsed();
+    });
     QTRY_VERIFY_WITH_TIMEOUT(stamps.size() >= 4, 5000);
     QVERIFY(stamps.first() >= 24);
     for (int i = 1; i < stamps.size(); ++i)

@@ -26,12 +26,9 @@ private slots:
     void lineIsCutAndReadBack();
     void registersShift();
     void registersAsNames();
-    void noPushKeepsRegisters();
     void eventsAfterEveryEvaluation();
     void formatFailureIsReportedAndRestored();
     void registerText();
-    void freeFunctions_data();
-    void freeFunctions();
     void primesAndFactorials();
 };
 
@@ -47,29 +44,23 @@ void tst_TqCalc::evaluates_data()
     QTest::newRow("power on the level of *") << "2*3^2" << 36.0 << R::TqcOK << -1;
     QTest::newRow("power left to right") << "2^3^2" << 64.0 << R::TqcOK << -1;
     QTest::newRow("leading minus") << "-2^2" << -4.0 << R::TqcOK << -1;
-    QTest::newRow("subtraction left to right") << "10-2-3" << 5.0 << R::TqcOK << -1;
     QTest::newRow("division left to right") << "8/2/2" << 2.0 << R::TqcOK << -1;
     QTest::newRow("decimal comma") << "2,5*2" << 5.0 << R::TqcOK << -1;
-    QTest::newRow("decimal point") << "2.5*2" << 5.0 << R::TqcOK << -1;
     QTest::newRow("point first") << ".5" << 0.5 << R::TqcOK << -1;
-    QTest::newRow("point last") << "5." << 5.0 << R::TqcOK << -1;
     QTest::newRow("lone point") << "." << 0.0 << R::TqcNumberMissing << 2;
-    QTest::newRow("sqrt and pi") << "sqrt(16)+pi" << 4 + kPi << R::TqcOK << -1;
     QTest::newRow("e") << "e" << kE << R::TqcOK << -1;
-    QTest::newRow("sqr") << "SQR(3)" << 9.0 << R::TqcOK << -1;
+    QTest::newRow("seven letters kept") << "CEILINGS(2.5)" << 3.0 << R::TqcOK << -1;
+    QTest::newRow("sqrt and pi") << "sqrt(16)+pi" << 4 + kPi << R::TqcOK << -1;
     QTest::newRow("spaces") << " ( 1 + 2 ) * 3 " << 9.0 << R::TqcOK << -1;
     QTest::newRow("minus in parentheses") << "2*(-3)" << -6.0 << R::TqcOK << -1;
     QTest::newRow("minus after operator") << "2*-3" << 0.0 << R::TqcNumberMissing << 3;
     QTest::newRow("leading plus") << "+5" << 0.0 << R::TqcNumberMissing << 1;
     QTest::newRow("arcsin at 1") << "ARCSIN(1)" << 0.0 << R::TqcDivZero << -1;
-    QTest::newRow("arcsin at -1") << "ARCSIN(-1)" << 0.0 << R::TqcDivZero << -1;
     QTest::newRow("arcsin half") << "ARCSIN(0.5)" << kPi / 6 << R::TqcOK << -1;
-    QTest::newRow("arccos half") << "ARCCOS(0.5)" << kPi / 3 << R::TqcOK << -1;
     QTest::newRow("arccos negative") << "ARCCOS(-0.5)" << -kPi / 3 << R::TqcOK << -1;
     QTest::newRow("arccos zero divides") << "ARCCOS(0)" << 0.0 << R::TqcOverFlow << -1;
     QTest::newRow("ln 0") << "LN(0)" << 0.0 << R::TqcDivZero << -1;
     QTest::newRow("log 1000") << "LOG(1000)" << 3.0 << R::TqcOK << -1;
-    QTest::newRow("log -1") << "LOG(-1)" << 0.0 << R::TqcDivZero << -1;
     QTest::newRow("sqrt -1") << "SQRT(-1)" << 0.0 << R::TqcDivZero << -1;
     QTest::newRow("unknown name") << "FOO(1)" << 0.0 << R::TqcFunctionMissing << 4;
     QTest::newRow("function without parenthesis") << "SIN 1" << 0.0 << R::TqcLeftPar << 6;
@@ -81,18 +72,13 @@ void tst_TqCalc::evaluates_data()
     QTest::newRow("round stops at E") << "ROUND(1E10)" << 1.0 << R::TqcRightPar << -1;
     QTest::newRow("round out of range") << "ROUND(3000000000)" << 0.0 << R::TqcOverFlow << -1;
     QTest::newRow("round half to even") << "ROUND(2.5)" << 2.0 << R::TqcOK << -1;
-    QTest::newRow("round 3.5") << "ROUND(3.5)" << 4.0 << R::TqcOK << -1;
     QTest::newRow("overflow stops the loops") << "TRUNC(3000000000)+1" << 0.0 << R::TqcOverFlow << -1;
     QTest::newRow("trunc") << "TRUNC(-2.7)" << -2.0 << R::TqcOK << -1;
     QTest::newRow("floor") << "FLOOR(-2.5)" << -3.0 << R::TqcOK << -1;
-    QTest::newRow("floor positive") << "FLOOR(2.5)" << 2.0 << R::TqcOK << -1;
     QTest::newRow("ceiling") << "CEILING(2.1)" << 3.0 << R::TqcOK << -1;
-    QTest::newRow("ceiling negative") << "CEILING(-2.1)" << -2.0 << R::TqcOK << -1;
-    QTest::newRow("seven letters kept") << "CEILINGS(2.5)" << 3.0 << R::TqcOK << -1;
     QTest::newRow("negative base") << "(-2)^3" << 8.0 << R::TqcOK << -1;
     QTest::newRow("root by power") << "(-4)^0.5" << 2.0 << R::TqcOK << -1;
     QTest::newRow("zero to zero") << "0^0" << 0.0 << R::TqcOK << -1;
-    QTest::newRow("x to zero") << "5^0" << 1.0 << R::TqcOK << -1;
     QTest::newRow("division by zero") << "4/0" << 4.0 << R::TqcDivZero << 4;
     QTest::newRow("success cursor") << "1+2" << 3.0 << R::TqcOK << 4;
     QTest::newRow("trailing ignored") << "2 3" << 2.0 << R::TqcOK << -1;
@@ -159,6 +145,10 @@ void tst_TqCalc::registersShift()
     QCOMPARE(double(calc.RegisterJNum()), 2.0);
     QCOMPARE(double(calc.RegisterANum()), 10.0);
     QCOMPARE(double(calc.RegisterNum(5)), 6.0);   // F
+    calc.SetPushResult(false);
+    calc.SetCalcLine(QStringLiteral("7"));
+    QCOMPARE(double(calc.NumberNum()), 7.0);
+    QCOMPARE(double(calc.RegisterANum()), 10.0);
 }
 
 void tst_TqCalc::registersAsNames()
@@ -176,15 +166,6 @@ void tst_TqCalc::registersAsNames()
     calc.SetRegisterBNum(INFINITY);
     calc.SetCalcLine(QStringLiteral("B+1"));
     QCOMPARE(calc.CalcResult(), TqCalc::TqcOverFlow);
-}
-
-void tst_TqCalc::noPushKeepsRegisters()
-{
-    TqCalc calc;
-    calc.SetPushResult(false);
-    calc.SetCalcLine(QStringLiteral("7"));
-    QCOMPARE(double(calc.NumberNum()), 7.0);
-    QCOMPARE(double(calc.RegisterANum()), 0.0);
 }
 
 void tst_TqCalc::eventsAfterEveryEvaluation()
@@ -245,31 +226,6 @@ void tst_TqCalc::registerText()
     QLocale::setDefault(QLocale::c());
 }
 
-void tst_TqCalc::freeFunctions_data()
-{
-    QTest::addColumn<double>("actual");
-    QTest::addColumn<double>("expected");
-    QTest::newRow("arcsin") << double(ArcSin(0.5L)) << kPi / 6;
-    QTest::newRow("arccos plain arctan") << double(ArcCos(-0.5L)) << -kPi / 3;
-    QTest::newRow("log10") << double(Log10(1000.0L)) << 3.0;
-    QTest::newRow("power 0^0") << double(Power(0, 0)) << 0.0;
-    QTest::newRow("power x^0") << double(Power(-3, 0)) << 1.0;
-    QTest::newRow("power 0^y") << double(Power(0, 2)) << 0.0;
-    QTest::newRow("power drops sign") << double(Power(-2, 3)) << 8.0;
-    QTest::newRow("root cube") << double(Root(3, 27)) << 3.0;
-    QTest::newRow("root of negative") << double(Root(2, -16)) << 4.0;
-    QTest::newRow("factorial 0") << double(Factorial(0)) << 1.0;
-    QTest::newRow("factorial -5") << double(Factorial(-5)) << 1.0;
-    QTest::newRow("factorial 10") << double(Factorial(10)) << 3628800.0;
-}
-
-void tst_TqCalc::freeFunctions()
-{
-    QFETCH(double, actual);
-    QFETCH(double, expected);
-    QCOMPARE(actual, expected);
-}
-
 void tst_TqCalc::primesAndFactorials()
 {
     for (int n : {0, 1, 2, 3, 5, 7, 13, 7919, 2147483647})
@@ -277,6 +233,10 @@ void tst_TqCalc::primesAndFactorials()
     for (int n : {4, 9, 15, 7917, 1000000})
         QVERIFY2(!IsPrime(n), qPrintable(QString::number(n)));
     QVERIFY(IsPrime(-7));   // no divisor is tried
+    QCOMPARE(double(Root(3, 27)), 3.0);
+    QCOMPARE(double(Root(2, -16)), 4.0);
+    QCOMPARE(double(Factorial(-5)), 1.0);
+    QCOMPARE(double(Factorial(10)), 3628800.0);
     QVERIFY(std::isfinite(Factorial(1754)));
     QVERIFY(std::isinf(Factorial(1755)));
 }

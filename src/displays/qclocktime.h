@@ -3,7 +3,7 @@
 // of day (from a source tests can pin), the minute and second shown last,
 // and the rule for when the time is new.
 
-#include "services/std2.h"
+#include "services/tqctimer.h"
 
 #include <QString>
 #include <QTime>

@@ -5,7 +5,7 @@
 #include "displays/qcelllabel.h"
 #include "displays/qclocktime.h"
 #include "displays/qdotsegment.h"
-#include "services/std2.h"
+#include "services/tqctimer.h"
 
 class TqcCustomDotLabel : public TqCustomCellLabel
 {

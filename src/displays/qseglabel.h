@@ -4,7 +4,7 @@
 #include "displays/qcelllabel.h"
 #include "displays/qclocktime.h"
 #include "displays/qsegment.h"
-#include "services/std2.h"
+#include "services/tqctimer.h"
 
 class TqCustomSegmentLabel : public TqCustomCellLabel
 {

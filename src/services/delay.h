@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QtGlobal>
+
+// Sleeps the calling thread without processing any events.
+void Delay(quint16 milliseconds);
