@@ -43,13 +43,98 @@ QColor systemColor(int index)
     }
 }
 
+struct NamedColor
+{
+    const char *name;
+    TColor color;
+};
+
+const NamedColor kNamedColors[] = {
+    {"clBlack", clBlack}, {"clMaroon", clMaroon}, {"clGreen", clGreen}, {"clOlive", clOlive},
+    {"clNavy", clNavy}, {"clPurple", clPurple}, {"clTeal", clTeal}, {"clGray", clGray},
+    {"clSilver", clSilver}, {"clRed", clRed}, {"clLime", clLime}, {"clYellow", clYellow},
+    {"clBlue", clBlue}, {"clFuchsia", clFuchsia}, {"clAqua", clAqua}, {"clWhite", clWhite},
+    {"clNone", clNone}, {"clDefault", clDefault},
+    {"clScrollBar", clScrollBar}, {"clBackground", clBackground},
+    {"clActiveCaption", clActiveCaption}, {"clInactiveCaption", clInactiveCaption},
+    {"clMenu", clMenu}, {"clWindow", clWindow}, {"clWindowFrame", clWindowFrame},
+    {"clMenuText", clMenuText}, {"clWindowText", clWindowText}, {"clCaptionText", clCaptionText},
+    {"clActiveBorder", clActiveBorder}, {"clInactiveBorder", clInactiveBorder},
+    {"clAppWorkSpace", clAppWorkSpace}, {"clHighlight", clHighlight},
+    {"clHighlightText", clHighlightText}, {"clBtnFace", clBtnFace}, {"clBtnShadow", clBtnShadow},
+    {"clGrayText", clGrayText}, {"clBtnText", clBtnText},
+    {"clInactiveCaptionText", clInactiveCaptionText}, {"clBtnHighlight", clBtnHighlight},
+    {"cl3DDkShadow", cl3DDkShadow}, {"cl3DLight", cl3DLight}, {"clInfoText", clInfoText},
+    {"clInfoBk", clInfoBk},
+};
+
+constexpr int kSystemAlphaTop = 254;
+constexpr int kSystemColors = 25;
+
+// Registers the conversions once, when the library is loaded.
+const bool kConvertersRegistered = [] {
+    QMetaType::registerConverter<TColor, QColor>(ColorToFormColor);
+    QMetaType::registerConverter<QColor, TColor>(FormColorToColor);
+    QMetaType::registerConverter<TColor, quint32>([](TColor c) { return c.value; });
+    QMetaType::registerConverter<quint32, TColor>([](quint32 v) { return TColor(v); });
+    QMetaType::registerConverter<TColor, int>([](TColor c) { return int(c.value); });
+    QMetaType::registerConverter<int, TColor>([](int v) { return TColor(quint32(v)); });
+    QMetaType::registerConverter<TColor, qlonglong>([](TColor c) { return qlonglong(c.value); });
+    QMetaType::registerConverter<qlonglong, TColor>([](qlonglong v) { return TColor(quint32(v)); });
+    QMetaType::registerConverter<TColor, QString>(ColorToString);
+    QMetaType::registerConverter<QString, TColor>([](const QString &s) {
+        TColor c;
+        return StringToColor(s, c) ? c : TColor(clBlack);
+    });
+    return true;
+}();
+
 } // namespace
+
+QString ColorToString(TColor color)
+{
+    for (const NamedColor &n : kNamedColors)
+        if (n.color == color)
+            return QString::fromLatin1(n.name);
+    return QStringLiteral("$%1").arg(quint32(color), 8, 16, QLatin1Char('0')).toUpper();
+}
+
+bool StringToColor(const QString &text, TColor &color)
+{
+    const QString t = text.trimmed();
+    for (const NamedColor &n : kNamedColors)
+        if (t.compare(QLatin1String(n.name), Qt::CaseInsensitive) == 0) {
+            color = n.color;
+            return true;
+        }
+    bool ok = false;
+    const quint32 v = t.startsWith(QLatin1Char('$')) ? t.mid(1).toUInt(&ok, 16) : t.toUInt(&ok, 0);
+    if (ok)
+        color = v;
+    return ok;
+}
+
+QColor ColorToFormColor(TColor color)
+{
+    QColor c = QColor::fromRgb(ColorToQRgb(color));
+    if (IsSystemColor(color) && int(color & 0xFF) < kSystemColors)
+        c.setAlpha(kSystemAlphaTop - int(color & 0xFF));
+    return c;
+}
+
+TColor FormColorToColor(const QColor &color)
+{
+    const int index = kSystemAlphaTop - color.alpha();
+    if (color.alpha() < 255 && index >= 0 && index < kSystemColors)
+        return clSystemColor | quint32(index);
+    return QColorToColor(color);
+}
 
 TColor ColorToRGB(TColor color)
 {
     if (IsSystemColor(color))
         return QColorToColor(systemColor(int(color & 0xFF)));
-    return color & 0x00FFFFFF;
+    return color & 0x00FFFFFFu;
 }
 
 QRgb ColorToQRgb(TColor color)

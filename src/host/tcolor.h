@@ -5,13 +5,25 @@
 
 #include <QtGlobal>
 #include <QColor>
+#include <QMetaType>
 #include <QRgb>
+#include <QString>
 
-using TColor = quint32;
+// A colour value with a type of its own, so that properties of this type are
+// known as colours (to Designer, to forms, to QVariant); it converts to and
+// from the plain 32-bit number freely.
+struct TColor
+{
+    quint32 value = 0;
+    constexpr TColor() = default;
+    constexpr TColor(quint32 v) : value(v) {}
+    constexpr operator quint32() const { return value; }
+};
+Q_DECLARE_METATYPE(TColor)
 
 constexpr TColor RGB(int r, int g, int b)
 {
-    return TColor(quint8(r)) | (TColor(quint8(g)) << 8) | (TColor(quint8(b)) << 16);
+    return TColor(quint32(quint8(r)) | (quint32(quint8(g)) << 8) | (quint32(quint8(b)) << 16));
 }
 constexpr int GetRValue(TColor c) { return int(c & 0xFF); }
 constexpr int GetGValue(TColor c) { return int((c >> 8) & 0xFF); }
@@ -78,6 +90,19 @@ QRgb ColorToQRgb(TColor color);
 inline QColor ColorToQColor(TColor color) { return QColor::fromRgb(ColorToQRgb(color)); }
 TColor QColorToColor(const QColor &color);
 inline TColor QRgbToColor(QRgb rgb) { return RGB(qRed(rgb), qGreen(rgb), qBlue(rgb)); }
+
+// The framework's names: "clRed", "clBtnFace"; other values as "$00BBGGRR".
+QString ColorToString(TColor color);
+// Reads a name or a "$" hexadecimal value (or a plain number); false if it is neither.
+bool StringToColor(const QString &text, TColor &color);
+
+// How a colour property is kept in a form (.ui) file: a plain colour as
+// itself, a system colour as the colour it shows now with an alpha of
+// 254 - index, so the form reads back the system colour and a colour
+// swatch still shows it. The conversions between TColor and QColor that
+// QVariant, QUiLoader and uic use are these two.
+QColor ColorToFormColor(TColor color);
+TColor FormColorToColor(const QColor &color);
 
 // a * b / c rounded half away from zero in 64-bit, as the platform's MulDiv;
 // -1 when c is 0 or the result does not fit in 32 bits.

@@ -1,0 +1,115 @@
+#include "componentregistry.h"
+
+#include "displays/qseg.h"
+#include "host/tcontrol.h"
+#include "services/mystd.h"
+#include "services/std2.h"
+
+#include <QTime>
+
+namespace {
+
+template <class T>
+QWidget *make(QWidget *parent)
+{
+    return new T(parent);
+}
+
+void poseSegment(QWidget *w) { static_cast<TqSegment *>(w)->SetChar('8'); }
+void poseDotSegment(QWidget *w) { static_cast<TqcDotSegment *>(w)->SetChar('A'); }
+
+void poseSegmentLabel(QWidget *w)
+{
+    auto *label = static_cast<TqSegmentLabel *>(w);
+    label->SetElements(3);
+    label->SetCaption(QStringLiteral("1.8"));
+}
+
+void poseDotLabel(QWidget *w)
+{
+    auto *label = static_cast<TqcDotLabel *>(w);
+    label->SetElements(2);
+    label->SetCaption(QStringLiteral("Ab"));
+}
+
+void poseSegmentClock(QWidget *w)
+{
+    auto *clock = static_cast<TqSegmentClock *>(w);
+    clock->SetCaption(QStringLiteral("12:00"));
+}
+
+void poseDotClock(QWidget *w)
+{
+    auto *clock = static_cast<TqcDotClock *>(w);
+    clock->Timer()->SetEnabled(false);
+    clock->SetCaption(QStringLiteral("12:00"));
+}
+
+// Widget-box order: the pages in order, within a page the order of the
+// palette rows; the tray icon closes the second page.
+const std::vector<TComponentEntry> kComponents = {
+    {"TqSegment", "displays/qseg.h", 0, 12, "Sixteen-segment character",
+     "One character cell with sixteen segments, a decimal point and a colon, in 15 sizes "
+     "and any lit and unlit colour.",
+     make<TqSegment>, poseSegment, true},
+    {"TqSegmentLabel", "displays/qseg.h", 0, 13, "Row of sixteen-segment characters",
+     "A row of segment cells showing a caption; decimal points and colons fold into the "
+     "cell before them.",
+     make<TqSegmentLabel>, poseSegmentLabel, true},
+    {"TqSegmentClock", "displays/qseg.h", 0, 14, "Segment clock",
+     "The time of day on segment cells, with or without seconds, ticked by its own "
+     "threaded timer.",
+     make<TqSegmentClock>, poseSegmentClock, true},
+    {"TqcDotSegment", "displays/qseg.h", 0, 45, "Dot-matrix character",
+     "One 7 x 9 dot-matrix character cell with round, square or rounded dots, in 25 sizes.",
+     make<TqcDotSegment>, poseDotSegment, true},
+    {"TqcDotLabel", "displays/qseg.h", 0, 46, "Row of dot-matrix characters",
+     "A row of dot-matrix cells showing a caption, one character a cell.",
+     make<TqcDotLabel>, poseDotLabel, true},
+    {"TqcDotClock", "displays/qseg.h", 0, 47, "Dot-matrix clock",
+     "The time of day on dot-matrix cells, with or without seconds.",
+     make<TqcDotClock>, poseDotClock, true},
+    {"TqCalc", "services/mystd.h", 1, 26, "Expression calculator",
+     "Evaluates a line of arithmetic with functions, constants and nine result registers "
+     "whenever CalcLine is assigned. Invisible at run time.",
+     make<TqCalc>, nullptr, false,
+     // Registers F to J keep an ordinary editor: TqCalc drops what is written to them.
+     "NumberNum,Number,RegisterA,RegisterB,RegisterC,RegisterD,CalcResult,WhereIsLastError"},
+    {"TqcTimer", "services/std2.h", 1, 49, "Threaded timer",
+     "A timer that sleeps in a worker thread of its own and raises OnTimer on the GUI "
+     "thread. Invisible at run time.",
+     make<TqcTimer>, nullptr, false},
+};
+
+} // namespace
+
+QString PageName(int page)
+{
+    switch (page) {
+    case 0: return QStringLiteral("QuovarSoft");
+    case 1: return QStringLiteral("QuovarSoft II");
+    default: return QStringLiteral("QuovarSoft III");
+    }
+}
+
+const std::vector<TComponentEntry> &Components() { return kComponents; }
+
+const TComponentEntry *FindComponent(const QString &className)
+{
+    for (const TComponentEntry &e : kComponents)
+        if (className == QLatin1String(e.className))
+            return &e;
+    return nullptr;
+}
+
+QWidget *CreateForDesigner(const TComponentEntry &entry, QWidget *parent)
+{
+    QWidget *w;
+    {
+        DesignTimeCreation designing;
+        w = entry.create(parent);
+    }
+    if (auto *core = dynamic_cast<TComponentCore *>(w))
+        core->QueueLoaded();
+    return w;
+}

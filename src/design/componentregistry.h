@@ -1,0 +1,40 @@
+#pragma once
+// Every component the Designer plugin offers, in the order of the widget
+// box: its class, header, page, help context number, texts, how to make one
+// and how to pose it for its palette icon. The plugin, the help generator
+// and the tests all read this one table.
+
+#include <QSize>
+#include <QString>
+
+#include <vector>
+
+class QWidget;
+
+struct TComponentEntry
+{
+    const char *className;
+    const char *includeFile;   // as an application includes it
+    int page;                  // 0, 1, 2: the three widget-box groups
+    int helpContext;           // the help topic number, fixed for good
+    const char *toolTip;
+    const char *whatsThis;     // one paragraph for the widget box and the help page
+    QWidget *(*create)(QWidget *parent);
+    // Sets the component up as its palette icon shows it (may be null).
+    void (*poseForIcon)(QWidget *component);
+    bool visual;               // false for the components that sit on a form as a face
+    // Shown but not editable in the designer (comma-separated names).
+    const char *readOnlyProperties = "";
+};
+
+// The widget-box group names.
+QString PageName(int page);
+
+// In widget-box order.
+const std::vector<TComponentEntry> &Components();
+const TComponentEntry *FindComponent(const QString &className);
+
+// Makes a component as the form designer does: in design mode before its
+// first property is set, with Loaded queued for when its stored properties
+// are in.
+QWidget *CreateForDesigner(const TComponentEntry &entry, QWidget *parent);

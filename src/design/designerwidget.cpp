@@ -1,0 +1,72 @@
+#include "designerwidget.h"
+
+#include "componenticon.h"
+#include "componentregistry.h"
+#include "propertysheet.h"
+#include "taskmenu.h"
+
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QExtensionManager>
+
+#include "host/tcomponent.h"
+
+#include <QIcon>
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+TDesignerWidget::TDesignerWidget(const TComponentEntry &entry, QObject *parent) : QObject(parent), FEntry(entry) {}
+
+QString TDesignerWidget::name() const { return QString::fromLatin1(FEntry.className); }
+QString TDesignerWidget::group() const { return PageName(FEntry.page); }
+QString TDesignerWidget::toolTip() const { return QString::fromLatin1(FEntry.toolTip); }
+QString TDesignerWidget::whatsThis() const { return QString::fromLatin1(FEntry.whatsThis); }
+QString TDesignerWidget::includeFile() const { return QString::fromLatin1(FEntry.includeFile); }
+QIcon TDesignerWidget::icon() const { return ComponentIcon(FEntry); }
+
+QWidget *TDesignerWidget::createWidget(QWidget *parent)
+{
+    // Designer makes its components inside a form window; a QUiLoader that
+    // found the plugin (even in a process that also runs a Designer core)
+    // makes them for a running form.
+    const bool designing = FCore && (!parent || QDesignerFormWindowInterface::findFormWindow(parent));
+    return designing ? CreateForDesigner(FEntry, parent) : FEntry.create(parent);
+}
+
+void TDesignerWidget::initialize(QDesignerFormEditorInterface *core)
+{
+    if (FCore == core)
+        return;
+    FCore = core;
+    // One pair of factories for each Designer core, however many of the
+    // collection's widgets it initialises.
+    QExtensionManager *manager = core->extensionManager();
+    if (!manager || manager->findChild<TTaskMenuFactory *>())
+        return;
+    manager->registerExtensions(new TTaskMenuFactory(manager), Q_TYPEID(QDesignerTaskMenuExtension));
+    manager->registerExtensions(new TPropertySheetFactory(manager), Q_TYPEID(QDesignerPropertySheetExtension));
+}
+
+QString TDesignerWidget::domXml() const
+{
+    std::unique_ptr<QWidget> sample;
+    {
+        DesignTimeCreation designing;
+        sample.reset(FEntry.create(nullptr));
+    }
+    QSize size = sample->size();
+    if (size.isEmpty())
+        size = sample->sizeHint();
+    QString objectName = name().mid(name().startsWith(QLatin1String("Tqc")) ? 3 : 2);
+    objectName[0] = objectName[0].toLower();
+    return QStringLiteral("<ui language=\"c++\">\n"
+                          " <widget class=\"%1\" name=\"%2\">\n"
+                          "  <property name=\"geometry\"><rect><x>0</x><y>0</y><width>%3</width><height>%4</height></rect></property>\n"
+                          " </widget>\n"
+                          "</ui>\n")
+        .arg(name(), objectName)
+        .arg(size.width())
+        .arg(size.height());
+}

@@ -1,0 +1,102 @@
+#include "helpviewer.h"
+
+#include "componentregistry.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace {
+
+THelpViewer &customViewer()
+{
+    static THelpViewer viewer;
+    return viewer;
+}
+
+QString assistantProgram()
+{
+    const QString bundled = QLibraryInfo::path(QLibraryInfo::BinariesPath) + QStringLiteral("/assistant");
+    if (QFileInfo(bundled).isExecutable())
+        return bundled;
+    for (const char *name : {"assistant", "assistant-qt6"}) {
+        const QString found = QStandardPaths::findExecutable(QString::fromLatin1(name));
+        if (!found.isEmpty())
+            return found;
+    }
+    return QString();
+}
+
+bool defaultViewer(const THelpRequest &request)
+{
+    const QDir dir(HelpDirectory());
+    if (dir.path().isEmpty() || HelpDirectory().isEmpty())
+        return false;
+    const QString collection = dir.filePath(QStringLiteral("qcol.qhc"));
+    const QString assistant = assistantProgram();
+    if (QFileInfo::exists(collection) && !assistant.isEmpty()) {
+        const QString url = QStringLiteral("qthelp://%1/doc/%2").arg(QLatin1String(kHelpNamespace), request.page);
+        if (QProcess::startDetached(assistant, {QStringLiteral("-collectionFile"), collection,
+                                                QStringLiteral("-showUrl"), url}))
+            return true;
+    }
+    const QString html = dir.filePath(QStringLiteral("html/") + request.page);
+    return QFileInfo::exists(html) && QDesktopServices::openUrl(QUrl::fromLocalFile(html));
+}
+
+bool show(const THelpRequest &request, QWidget *owner)
+{
+    const THelpViewer &viewer = customViewer();
+    if (viewer ? viewer(request) : defaultViewer(request))
+        return true;
+    const QString where = HelpDirectory().isEmpty()
+        ? QStringLiteral("No help folder was found (set QCOL_HELP_DIR to the folder that holds "
+                         "qcol.qhc and html/).")
+        : QStringLiteral("The help is in %1, but neither Qt Assistant nor a web browser could "
+                         "open it.").arg(QDir::toNativeSeparators(HelpDirectory()));
+    auto *box = new QMessageBox(QMessageBox::Warning, QStringLiteral("QuovarCollection help"),
+                                QStringLiteral("The help page %1 cannot be shown.\n\n%2").arg(request.page, where),
+                                QMessageBox::Ok, owner);
+    box->setObjectName(QStringLiteral("qcolHelpMessage"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+    return false;
+}
+
+} // namespace
+
+QString HelpPage(int context)
+{
+    for (const TComponentEntry &e : Components())
+        if (e.helpContext == context)
+            return QString::fromLatin1(e.className).toLower() + QStringLiteral(".html");
+    return QStringLiteral("index.html");
+}
+
+QString HelpDirectory()
+{
+    QStringList candidates;
+    const QString env = qEnvironmentVariable("QCOL_HELP_DIR");
+    if (!env.isEmpty())
+        candidates << env;
+#ifdef QC_HELP_INSTALL_DIR
+    candidates << QStringLiteral(QC_HELP_INSTALL_DIR);
+#endif
+#ifdef QC_HELP_BUILD_DIR
+    candidates << QStringLiteral(QC_HELP_BUILD_DIR);
+#endif
+    for (const QString &c : candidates)
+        if (QFileInfo::exists(c + QStringLiteral("/qcol.qhc")) || QFileInfo::exists(c + QStringLiteral("/html/index.html")))
+            return c;
+    return QString();
+}
+
+void SetHelpViewer(THelpViewer viewer) { customViewer() = std::move(viewer); }
+
+bool ShowHelpTopic(int context, QWidget *owner) { return show({context, HelpPage(context)}, owner); }
+
+bool ShowHelpIndex(QWidget *owner) { return show({0, QStringLiteral("index.html")}, owner); }

@@ -1,0 +1,7 @@
+#pragma once
+// The component editors: the verbs, the help and the about box.
+
+#include "design/aboutbox.h"
+#include "design/componenteditor.h"
+#include "design/helpviewer.h"
+#include "design/taskmenu.h"

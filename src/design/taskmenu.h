@@ -1,0 +1,41 @@
+#pragma once
+// The component editor in Designer: the three verbs on the context menu of
+// every component of the collection.
+
+#include "componenteditor.h"
+
+#include <QtDesigner/QDesignerTaskMenuExtension>
+#include <QtDesigner/QExtensionFactory>
+
+#include <QAction>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class TTaskMenu : public QObject, public QDesignerTaskMenuExtension
+{
+    Q_OBJECT
+    Q_INTERFACES(QDesignerTaskMenuExtension)
+
+public:
+    TTaskMenu(QWidget *component, int helpContext, QObject *parent);
+
+    QAction *preferredEditAction() const override { return nullptr; }
+    // Each action's data is the help context number of the component.
+    QList<QAction *> taskActions() const override { return FActions; }
+
+private:
+    QPointer<QWidget> FComponent;
+    TComponentEditor FEditor;
+    QList<QAction *> FActions;
+};
+
+class TTaskMenuFactory : public QExtensionFactory
+{
+    Q_OBJECT
+public:
+    explicit TTaskMenuFactory(QExtensionManager *parent);
+
+protected:
+    QObject *createExtension(QObject *object, const QString &iid, QObject *parent) const override;
+};

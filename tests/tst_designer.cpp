@@ -1,0 +1,391 @@
+// The Designer plugin as Designer itself uses it: loaded from the plugin
+// folder, its widgets listed in the widget box's order, made in design
+// mode, edited through the property sheet, saved by a real form editor and
+// read back by QUiLoader; the component editor's verbs and the help.
+#include "design/qcinit01.h"
+#include "design/qs_vcl32.h"
+#include "displays/qseg.h"
+#include "services/mystd.h"
+
+#include <QtDesigner/QDesignerComponents>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerIntegration>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QDesignerTaskMenuExtension>
+#include <QtDesigner/QExtensionManager>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+
+#include "ui_panel.h"
+
+#include <QBuffer>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QMetaProperty>
+#include <QPluginLoader>
+#include <QUiLoader>
+#include <QtTest>
+
+namespace {
+
+// The palette of the whole collection, page by page, as the widget box
+// must show it once every component exists.
+const QStringList kPalette[3] = {
+    {"TqTabListbox", "TqBitmap", "TqAnimated", "TqBackground", "TqBlendPaint", "TqNWBlendPaint", "TqTileMap",
+     "TqNWTileMap", "TqLed", "TqSegment", "TqSegmentLabel", "TqSegmentClock", "TqcPeakOmeter", "TqcDotSegment",
+     "TqcDotLabel", "TqcDotClock", "TqGauge", "TqFrame", "TqDivider", "TqMovePanel", "TqScope", "TqVerSplit",
+     "TqHorSplit", "TqPanelMeter"},
+    {"TqCalc", "TqMinMax", "TqHint", "TqShowApp", "TqSplashForm", "TqTitleBar", "TqCompCanvas", "TqcTimer",
+     "TqcRunProg", "TqTrayIcon"},
+    {"TqBigLabel", "Tq3DLabel", "TqAngleLabel", "TqShapeBtn", "TqColorBtn", "TqGradBtn", "TqBitColBtn",
+     "TqIconColBtn", "TqMouseSpot", "TqKnob", "TqDblKnob", "TqTripKnob", "TqSlideBar", "TqNWColorBtn",
+     "TqNWBitColBtn", "TqNWIconColBtn"},
+};
+
+// A value unlike the current one, of the property's type; invalid when the
+// type is not one a form stores for these components.
+QVariant otherValue(const QMetaProperty &p, const QVariant &v)
+{
+    if (p.userType() == qMetaTypeId<TColor>())
+        return QVariant::fromValue(TColor(v.value<TColor>() == clTeal ? clOlive : clTeal));
+    if (p.isEnumType()) {
+        const QMetaEnum e = p.enumerator();
+        for (int i = 0; i < e.keyCount(); ++i)
+            if (e.value(i) != v.toInt())
+                return e.value(i);
+    }
+    switch (v.metaType().id()) {
+    case QMetaType::Bool: return !v.toBool();
+    case QMetaType::Int: return v.toInt() + 1;
+    case QMetaType::UInt: return v.toUInt() + 7;
+    case QMetaType::Double: return v.toDouble() + 1.5;
+    case QMetaType::QString: return QStringLiteral("2.5");
+    case QMetaType::QChar: return QChar(u'Q');
+    default: return QVariant();
+    }
+}
+
+// The stored properties a component adds to QWidget's.
+QList<QMetaProperty> storedProperties(const QObject *o)
+{
+    QList<QMetaProperty> out;
+    const QMetaObject *m = o->metaObject();
+    for (int i = QWidget::staticMetaObject.propertyCount(); i < m->propertyCount(); ++i)
+        if (m->property(i).isStored() && m->property(i).isWritable() && qstrcmp(m->property(i).name(), "Name"))
+            out << m->property(i);
+    return out;
+}
+
+struct DesignerCore
+{
+    QMainWindow top;
+    QDesignerFormEditorInterface *core;
+    QDesignerFormWindowInterface *form;
+    DesignerCore()
+    {
+        QDesignerComponents::initializeResources();
+        core = QDesignerComponents::createFormEditor(nullptr);
+        core->setTopLevel(&top);
+        new QDesignerIntegration(core, &top);
+        QDesignerComponents::initializePlugins(core);
+        QDesignerComponents::createTaskMenu(core, &top);
+        form = core->formWindowManager()->createFormWindow(&top);
+    }
+    ~DesignerCore()
+    {
+        delete form;
+        delete core;
+    }
+    template <class T>
+    T *extension(QObject *o) const { return qt_extension<T *>(core->extensionManager(), o); }
+};
+
+} // namespace
+
+class tst_Designer : public QObject
+{
+    Q_OBJECT
+    std::unique_ptr<DesignerCore> d;
+    QDesignerFormWindowInterface *form() const { return d->form; }
+private slots:
+    void initTestCase() { d = std::make_unique<DesignerCore>(); }
+    void cleanupTestCase() { d.reset(); }
+    void pluginListsTheComponentsInPaletteOrder();
+    void madeInDesignMode();
+    void iconsAreTheComponentsOwnPictures();
+    void formRoundTripThroughDesigner();
+    void colourPropertiesAreColoursAndKeepSystemColours();
+    void calculatorResultsAreReadOnly();
+    void verbsOpenTheHelpAtTheContextNumber();
+    void helpPagesAreBuilt();
+    void uicCompiledFormMatchesTheLoadedOne();
+};
+
+void tst_Designer::pluginListsTheComponentsInPaletteOrder()
+{
+    QPluginLoader loader(QStringLiteral(QC_PLUGIN_FILE));
+    QVERIFY2(loader.load(), qPrintable(loader.errorString()));
+    auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(loader.instance());
+    QVERIFY(collection);
+    const auto widgets = collection->customWidgets();
+    QCOMPARE(widgets.size(), int(Components().size()));
+    // In the order of the palette: page by page, and within a page as the
+    // whole palette lists them.
+    int lastPage = 0, lastIndex = -1;
+    for (QDesignerCustomWidgetInterface *w : widgets) {
+        const int page = w->group() == "QuovarSoft" ? 0 : w->group() == "QuovarSoft II" ? 1 : w->group() == "QuovarSoft III" ? 2 : -1;
+        QVERIFY2(page >= lastPage, qPrintable(w->name()));
+        const int index = int(kPalette[page].indexOf(w->name()));
+        QVERIFY2(index >= 0 && (page > lastPage || index > lastIndex), qPrintable(w->name()));
+        lastPage = page;
+        lastIndex = index;
+        QVERIFY(!w->toolTip().isEmpty() && !w->whatsThis().isEmpty());
+        QVERIFY(w->domXml().contains(QStringLiteral("class=\"%1\"").arg(w->name())));
+        QVERIFY(QFile::exists(QStringLiteral(QC_SOURCE_DIR "/src/") + w->includeFile()));
+    }
+}
+
+void tst_Designer::madeInDesignMode()
+{
+    QWidget form;
+    for (const TComponentEntry &e : Components()) {
+        QWidget *w = CreateForDesigner(e, &form);
+        auto *core = dynamic_cast<TComponentCore *>(w);
+        QVERIFY2(core && core->IsDesigning() && core->IsLoading(), e.className);
+    }
+    // Design-mode rules hold from the start: a label shows the name, a
+    // non-visual component its face.
+    QCOMPARE(form.findChild<TqSegmentLabel *>()->Caption(), QStringLiteral("QuovarSoft"));
+    QCOMPARE(form.findChild<TqcDotLabel *>()->Caption(), QStringLiteral("QuovarSoft"));
+    form.show();
+    QVERIFY(form.findChild<TqCalc *>()->isVisible());
+    QTRY_VERIFY(!form.findChild<TqCalc *>()->IsLoading());   // Loaded came once the event loop ran
+}
+
+void tst_Designer::iconsAreTheComponentsOwnPictures()
+{
+    for (const TComponentEntry &e : Components()) {
+        const QIcon icon = ComponentIcon(e);
+        QCOMPARE(icon.availableSizes(), (QList<QSize>{QSize(24, 24), QSize(48, 48)}));
+        const QImage small = icon.pixmap(24, 24).toImage();
+        int opaque = 0;
+        for (int y = 0; y < 24; ++y)
+            for (int x = 0; x < 24; ++x)
+                opaque += qAlpha(small.pixel(x, y)) == 255;
+        QVERIFY2(opaque >= 24 * 8, e.className);   // a picture, at least a third of the square
+    }
+    // The segment cell's icon is its '8': the lit colour is in it.
+    const QImage seg = ComponentIconImage(*FindComponent("TqSegment"), 48);
+    bool lit = false;
+    for (int y = 0; y < 48 && !lit; ++y)
+        for (int x = 0; x < 48 && !lit; ++x)
+            lit = qGreen(seg.pixel(x, y)) > 200 && qRed(seg.pixel(x, y)) < 60;
+    QVERIFY(lit);
+}
+
+void tst_Designer::formRoundTripThroughDesigner()
+{
+    QString xml = QStringLiteral("<ui version=\"4.0\"><class>Panel</class><widget class=\"QWidget\" name=\"Panel\">"
+                                 "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>640</width><height>480</height></rect></property>");
+    int y = 0;
+    for (const TComponentEntry &e : Components()) {
+        xml += QStringLiteral("<widget class=\"%1\" name=\"%2\"><property name=\"geometry\"><rect><x>0</x><y>%3</y>"
+                              "<width>30</width><height>30</height></rect></property></widget>")
+                   .arg(QLatin1String(e.className), QString::fromLatin1(e.className).toLower())
+                   .arg(y);
+        y += 40;
+    }
+    xml += QStringLiteral("</widget></ui>");
+    QVERIFY(d->form->setContents(xml));
+
+    // Every stored property gets a value other than its default, through the
+    // sheet as the property editor sets it.
+    int changed = 0;
+    for (const TComponentEntry &e : Components()) {
+        QWidget *w = d->form->mainContainer()->findChild<QWidget *>(QString::fromLatin1(e.className).toLower());
+        QVERIFY2(w && dynamic_cast<TComponentCore *>(w)->IsDesigning(), e.className);
+        auto *sheet = d->extension<QDesignerPropertySheetExtension>(w);
+        for (const QMetaProperty &p : storedProperties(w)) {
+            const int index = sheet->indexOf(QLatin1String(p.name()));
+            if (!sheet->isEnabled(index))
+                continue;
+            QVariant v = otherValue(p, p.read(w));
+            QVERIFY2(v.isValid(), p.name());
+            if (p.userType() == qMetaTypeId<TColor>())
+                v = ColorToFormColor(v.value<TColor>());
+            sheet->setProperty(index, v);
+            sheet->setChanged(index, true);
+            ++changed;
+        }
+    }
+    QVERIFY(changed > 80);
+
+    QByteArray saved = d->form->contents().toUtf8();
+    if (qEnvironmentVariableIsSet("QC_WRITE_PANEL_UI")) {   // how tests/data/panel.ui was made
+        QFile out(qEnvironmentVariable("QC_WRITE_PANEL_UI"));
+        QVERIFY(out.open(QIODevice::WriteOnly));
+        out.write(saved);
+    }
+    QBuffer file(&saved);
+    QUiLoader loader;
+    std::unique_ptr<QWidget> loaded;
+    {
+        FormLoading loading;
+        loaded.reset(loader.load(&file));
+    }
+    QVERIFY2(loaded, qPrintable(loader.errorString()));
+    for (const TComponentEntry &e : Components()) {
+        const QString name = QString::fromLatin1(e.className).toLower();
+        QWidget *designed = d->form->mainContainer()->findChild<QWidget *>(name);
+        QWidget *runtime = loaded->findChild<QWidget *>(name);
+        QVERIFY2(runtime && QLatin1String(runtime->metaObject()->className()) == QLatin1String(e.className), e.className);
+        for (const QMetaProperty &p : storedProperties(designed))
+            QVERIFY2(p.read(runtime) == p.read(designed),
+                     qPrintable(QStringLiteral("%1.%2: %3 after loading, %4 in the designer")
+                                    .arg(e.className, p.name(), p.read(runtime).toString(), p.read(designed).toString())));
+        if (!e.visual) {
+            QVERIFY(runtime->isHidden());   // a face only while designing
+            QVERIFY(!dynamic_cast<TComponentCore *>(runtime)->IsDesigning());
+        }
+    }
+}
+
+void tst_Designer::colourPropertiesAreColoursAndKeepSystemColours()
+{
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqSegment\" name=\"seg\"/></widget></ui>")));
+    auto *seg = d->form->mainContainer()->findChild<TqSegment *>("seg");
+    auto *sheet = d->extension<QDesignerPropertySheetExtension>(seg);
+    const int lit = sheet->indexOf("LitColor"), color = sheet->indexOf("Color");
+    QCOMPARE(sheet->property(lit).metaType().id(), int(QMetaType::QColor));   // a swatch, not a number
+    QCOMPARE(sheet->property(lit).value<QColor>(), QColor(0, 255, 0));
+    sheet->setProperty(lit, QColor(255, 0, 0));
+    QCOMPARE(seg->LitColor(), clRed);
+    sheet->setProperty(color, ColorToFormColor(clBtnFace));
+    sheet->setChanged(color, true);
+    QCOMPARE(seg->Color(), clBtnFace);
+    QCOMPARE(sheet->property(color).value<QColor>().rgb(), ColorToQRgb(clBtnFace));
+    // Saved and loaded, it is the system colour again.
+    QByteArray saved = d->form->contents().toUtf8();
+    QBuffer file(&saved);
+    QUiLoader loader;
+    std::unique_ptr<QWidget> loaded(loader.load(&file));
+    QCOMPARE(loaded->findChild<TqSegment *>("seg")->Color(), clBtnFace);
+    // Name is Designer's objectName; it is not shown twice.
+    QDesignerFormWindowInterface *f = d->form;
+    QVERIFY(f->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqcTimer\" name=\"timer\"/></widget></ui>")));
+    auto *timerSheet = d->extension<QDesignerPropertySheetExtension>(f->mainContainer()->findChild<TqcTimer *>("timer"));
+    QVERIFY(!timerSheet->isVisible(timerSheet->indexOf("Name")));
+    QVERIFY(timerSheet->isVisible(timerSheet->indexOf("Interval")));
+}
+
+void tst_Designer::calculatorResultsAreReadOnly()
+{
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqCalc\" name=\"calc\"/></widget></ui>")));
+    auto *sheet = d->extension<QDesignerPropertySheetExtension>(d->form->mainContainer()->findChild<TqCalc *>("calc"));
+    for (const char *name : {"NumberNum", "Number", "RegisterA", "RegisterD", "CalcResult", "WhereIsLastError"})
+        QVERIFY2(!sheet->isEnabled(sheet->indexOf(name)) && sheet->isVisible(sheet->indexOf(name)), name);
+    for (const char *name : {"RegisterF", "RegisterJ", "CalcLine", "RegisterANum"})
+        QVERIFY2(sheet->isEnabled(sheet->indexOf(name)), name);
+}
+
+void tst_Designer::verbsOpenTheHelpAtTheContextNumber()
+{
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqSegmentLabel\" name=\"label\"/><widget class=\"TqcTimer\" name=\"timer\"/></widget></ui>")));
+    QList<THelpRequest> requests;
+    SetHelpViewer([&](const THelpRequest &r) { requests << r; return true; });
+    for (const auto &[name, context] : {std::pair{"label", 13}, std::pair{"timer", 49}}) {
+        QWidget *w = d->form->mainContainer()->findChild<QWidget *>(name);
+        auto *menu = d->extension<QDesignerTaskMenuExtension>(w);
+        QVERIFY(menu);
+        const QList<QAction *> actions = menu->taskActions();
+        QCOMPARE(actions.size(), 3);
+        QCOMPARE(actions[0]->text(), QStringLiteral("Help for component"));
+        QCOMPARE(actions[1]->text(), QStringLiteral("Help for QuovarCollection"));
+        QCOMPARE(actions[2]->text(), QStringLiteral("About QuovarCollection..."));
+        QCOMPARE(actions[0]->data().toInt(), context);
+        requests.clear();
+        actions[0]->trigger();
+        actions[1]->trigger();
+        QCOMPARE(requests.size(), 2);
+        QCOMPARE(requests[0].context, context);
+        QCOMPARE(requests[0].page, QLatin1String(name) == "label" ? QStringLiteral("tqsegmentlabel.html") : QStringLiteral("tqctimer.html"));
+        QCOMPARE(requests[1].page, QStringLiteral("index.html"));
+    }
+    // No viewer: the user is told, nothing else happens.
+    SetHelpViewer([](const THelpRequest &) { return false; });
+    QVERIFY(!ShowHelpTopic(13, &d->top));
+    auto *message = d->top.findChild<QMessageBox *>("qcolHelpMessage");
+    QVERIFY(message && message->isVisible());
+    QVERIFY(message->text().contains(QStringLiteral("tqsegmentlabel.html")));
+    message->close();
+    SetHelpViewer({});
+    // The about box names the version.
+    TComponentEditor(13).ExecuteVerb(2, &d->top);
+    auto *about = d->top.findChild<QMessageBox *>("qcolAboutBox");
+    QVERIFY(about && about->isVisible());
+    QVERIFY(about->text().contains(QStringLiteral("QuovarCollection " QC_VERSION)));
+    about->close();
+}
+
+void tst_Designer::helpPagesAreBuilt()
+{
+    const QString dir = HelpDirectory();
+    QVERIFY2(!dir.isEmpty(), "the help of the build tree was not found");
+    for (const TComponentEntry &e : Components()) {
+        QFile page(dir + QStringLiteral("/html/") + HelpPage(e.helpContext));
+        QVERIFY2(page.open(QIODevice::ReadOnly), qPrintable(page.fileName()));
+        const QString html = QString::fromUtf8(page.readAll());
+        const QImage picture(dir + QStringLiteral("/html/") + QString::fromLatin1(e.className).toLower() + QStringLiteral(".png"));
+        QVERIFY2(!picture.isNull(), e.className);
+        // Every property and event the component publishes is on its page.
+        const QMetaObject *meta = e.create(nullptr)->metaObject();
+        for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i)
+            QVERIFY2(html.contains(QStringLiteral("<code>%1</code>").arg(QLatin1String(meta->property(i).name()))),
+                     meta->property(i).name());
+        QVERIFY(html.contains(QStringLiteral("help topic %1").arg(e.helpContext)));
+    }
+    QFile project(dir + QStringLiteral("/html/qcol.qhp"));
+    QVERIFY(project.open(QIODevice::ReadOnly));
+    QVERIFY(project.readAll().contains("<keyword name=\"TqSegment\" id=\"12\" ref=\"tqsegment.html\"/>"));
+}
+
+void tst_Designer::uicCompiledFormMatchesTheLoadedOne()
+{
+    QWidget compiled;
+    {
+        FormLoading loading;
+        Ui::Panel ui;
+        ui.setupUi(&compiled);
+    }
+    QFile file(QStringLiteral(QC_SOURCE_DIR "/tests/data/panel.ui"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QUiLoader loader;
+    std::unique_ptr<QWidget> loaded(loader.load(&file));
+    QVERIFY(loaded);
+    int compared = 0;
+    for (const TComponentEntry &e : Components()) {
+        const QString name = QString::fromLatin1(e.className).toLower();
+        QWidget *a = compiled.findChild<QWidget *>(name), *b = loaded->findChild<QWidget *>(name);
+        QVERIFY2(a && b, e.className);
+        QVERIFY(!dynamic_cast<TComponentCore *>(a)->IsLoading());   // Loaded has run
+        for (const QMetaProperty &p : storedProperties(a)) {
+            QVERIFY2(p.read(a) == p.read(b), qPrintable(QStringLiteral("%1.%2").arg(e.className, p.name())));
+            ++compared;
+        }
+    }
+    QVERIFY(compared > 80);
+    QCOMPARE(compiled.findChild<TqSegmentLabel *>("tqsegmentlabel")->Caption(), QStringLiteral("2.5"));
+    QCOMPARE(compiled.findChild<TqCalc *>("tqcalc")->CalcLine(), QStringLiteral("2.5"));
+}
+
+QTEST_MAIN(tst_Designer)
+#include "tst_designer.moc"
