@@ -5,7 +5,7 @@ ASAN_BUILD ?= build-asan
 TSAN_BUILD ?= build-tsan
 JOBS       ?= $(shell nproc)
 
-.PHONY: setup configure build demo test test-asan test-tsan bench clean
+.PHONY: setup configure build demo test test-asan test-tsan bench example clean
 
 setup:
 	@bash scripts/setup.sh
@@ -34,6 +34,10 @@ test-tsan: setup
 	@cmake --build $(TSAN_BUILD) -j $(JOBS) --target tst_qctimer
 	@cd $(TSAN_BUILD) && QT_QPA_PLATFORM=offscreen \
 	  TSAN_OPTIONS="suppressions=$(CURDIR)/tests/tsan.supp halt_on_error=1" ctest --output-on-failure -R tst_qctimer
+
+# Installs into a scratch prefix and builds examples/panel against it.
+example: build
+	@bash scripts/example.sh $(BUILD)
 
 bench: build
 	@for b in $(BUILD)/bench/bench_*; do echo "== $$b"; $$b; done
