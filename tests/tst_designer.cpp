@@ -20,6 +20,7 @@
 #include "ui_panel.h"
 
 #include <QBuffer>
+#include <QComboBox>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QMetaProperty>
@@ -116,6 +117,7 @@ private slots:
     void iconsAreTheComponentsOwnPictures();
     void formRoundTripThroughDesigner();
     void colourPropertiesAreColoursAndKeepSystemColours();
+    void systemColoursAreChosenInTheColoursDialog();
     void calculatorResultsAreReadOnly();
     void verbsOpenTheHelpAtTheContextNumber();
     void helpPagesAreBuilt();
@@ -283,6 +285,33 @@ void tst_Designer::colourPropertiesAreColoursAndKeepSystemColours()
     QVERIFY(timerSheet->isVisible(timerSheet->indexOf("Interval")));
 }
 
+void tst_Designer::systemColoursAreChosenInTheColoursDialog()
+{
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqcDotLabel\" name=\"label\"/></widget></ui>")));
+    auto *label = d->form->mainContainer()->findChild<TqcDotLabel *>("label");
+    QAction *colours = d->extension<QDesignerTaskMenuExtension>(label)->taskActions().last();
+    QCOMPARE(colours->text(), QStringLiteral("Colours..."));
+    colours->trigger();
+    auto *dialog = label->window()->findChild<TColorsDialog *>("qcolColorsDialog");
+    QVERIFY(dialog && dialog->isVisible());
+    auto *box = dialog->findChild<QComboBox *>("UnLitColor");
+    QCOMPARE(box->currentText(), QStringLiteral("$00002000"));   // unnamed: shown as a value
+    box->activated(box->findText(QStringLiteral("clBtnShadow")));
+    QVERIFY(dialog->SetValue(QStringLiteral("LitColor"), clAqua));
+    dialog->accept();
+    QCOMPARE(label->UnLitColor(), clBtnShadow);
+    QCOMPARE(label->LitColor(), clAqua);
+    // Stored as changed: the saved form brings the system colour back.
+    QByteArray saved = d->form->contents().toUtf8();
+    QBuffer file(&saved);
+    QUiLoader loader;
+    std::unique_ptr<QWidget> loaded(loader.load(&file));
+    QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->UnLitColor(), clBtnShadow);
+    QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->LitColor(), clAqua);
+}
+
 void tst_Designer::calculatorResultsAreReadOnly()
 {
     QVERIFY(d->form->setContents(QStringLiteral(
@@ -307,7 +336,8 @@ void tst_Designer::verbsOpenTheHelpAtTheContextNumber()
         auto *menu = d->extension<QDesignerTaskMenuExtension>(w);
         QVERIFY(menu);
         const QList<QAction *> actions = menu->taskActions();
-        QCOMPARE(actions.size(), 3);
+        // The verbs; then, for the label with its colours, a separator and "Colours...".
+        QCOMPARE(actions.size(), QLatin1String(name) == "label" ? 5 : 3);
         QCOMPARE(actions[0]->text(), QStringLiteral("Help for component"));
         QCOMPARE(actions[1]->text(), QStringLiteral("Help for QuovarCollection"));
         QCOMPARE(actions[2]->text(), QStringLiteral("About QuovarCollection..."));

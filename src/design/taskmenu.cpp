@@ -1,6 +1,12 @@
 #include "taskmenu.h"
 
+#include "colorsdialog.h"
 #include "componentregistry.h"
+
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+
+#include <QMetaProperty>
 
 #include <QWidget>
 
@@ -15,6 +21,41 @@ TTaskMenu::TTaskMenu(QWidget *component, int helpContext, QObject *parent)
         });
         FActions << action;
     }
+    // Where the component has colour properties: the dialog that also
+    // offers the system colours.
+    const QMetaObject *meta = component->metaObject();
+    for (int i = 0; i < meta->propertyCount(); ++i)
+        if (meta->property(i).userType() == qMetaTypeId<TColor>()) {
+            auto *separator = new QAction(this);
+            separator->setSeparator(true);
+            auto *colours = new QAction(QStringLiteral("Colours..."), this);
+            colours->setObjectName(QStringLiteral("qcolColoursAction"));
+            connect(colours, &QAction::triggered, this, &TTaskMenu::editColours);
+            FActions << separator << colours;
+            break;
+        }
+}
+
+void TTaskMenu::editColours()
+{
+    if (!FComponent)
+        return;
+    auto *dialog = new TColorsDialog(FComponent, FComponent->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        if (!FComponent)
+            return;
+        // Through the form window's cursor: one undoable change each, marked
+        // as changed so the form stores it.
+        QDesignerFormWindowInterface *form = QDesignerFormWindowInterface::findFormWindow(FComponent);
+        for (const auto &[name, color] : dialog->Changes()) {
+            if (form)
+                form->cursor()->setWidgetProperty(FComponent, name, ColorToFormColor(color));
+            else
+                FComponent->setProperty(name.toLatin1().constData(), QVariant::fromValue(color));
+        }
+    });
+    dialog->open();
 }
 
 TTaskMenuFactory::TTaskMenuFactory(QExtensionManager *parent) : QExtensionFactory(parent) {}

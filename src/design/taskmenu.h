@@ -21,10 +21,13 @@ public:
     TTaskMenu(QWidget *component, int helpContext, QObject *parent);
 
     QAction *preferredEditAction() const override { return nullptr; }
-    // Each action's data is the help context number of the component.
+    // The three verbs first, each with the component's help context number
+    // as its data; then, for a component with colour properties, "Colours...".
     QList<QAction *> taskActions() const override { return FActions; }
 
 private:
+    void editColours();
+
     QPointer<QWidget> FComponent;
     TComponentEditor FEditor;
     QList<QAction *> FActions;

@@ -99,6 +99,14 @@ QString ColorToString(TColor color)
     return QStringLiteral("$%1").arg(quint32(color), 8, 16, QLatin1Char('0')).toUpper();
 }
 
+QStringList ColorNames()
+{
+    QStringList names;
+    for (const NamedColor &n : kNamedColors)
+        names << QString::fromLatin1(n.name);
+    return names;
+}
+
 bool StringToColor(const QString &text, TColor &color)
 {
     const QString t = text.trimmed();

@@ -8,6 +8,7 @@
 #include <QMetaType>
 #include <QRgb>
 #include <QString>
+#include <QStringList>
 
 // A colour value with a type of its own, so that properties of this type are
 // known as colours (to Designer, to forms, to QVariant); it converts to and
@@ -93,6 +94,8 @@ inline TColor QRgbToColor(QRgb rgb) { return RGB(qRed(rgb), qGreen(rgb), qBlue(r
 
 // The framework's names: "clRed", "clBtnFace"; other values as "$00BBGGRR".
 QString ColorToString(TColor color);
+// Every name ColorToString gives, plain colours first, then the system colours.
+QStringList ColorNames();
 // Reads a name or a "$" hexadecimal value (or a plain number); false if it is neither.
 bool StringToColor(const QString &text, TColor &color);
 
