@@ -48,7 +48,7 @@ const QStringList kPalette[3] = {
 // type is not one a form stores for these components.
 QVariant otherValue(const QMetaProperty &p, const QVariant &v)
 {
-    if (p.userType() == qMetaTypeId<TColor>())
+    if (IsColorProperty(p))
         return QVariant::fromValue(TColor(v.value<TColor>() == clTeal ? clOlive : clTeal));
     if (p.isEnumType()) {
         const QMetaEnum e = p.enumerator();
@@ -214,7 +214,7 @@ void tst_Designer::formRoundTripThroughDesigner()
                 continue;
             QVariant v = otherValue(p, p.read(w));
             QVERIFY2(v.isValid(), p.name());
-            if (p.userType() == qMetaTypeId<TColor>())
+            if (IsColorProperty(p))
                 v = ColorToFormColor(v.value<TColor>());
             sheet->setProperty(index, v);
             sheet->setChanged(index, true);

@@ -27,7 +27,7 @@ TColorsDialog::TColorsDialog(QWidget *component, QWidget *parent) : QDialog(pare
     const QMetaObject *meta = component->metaObject();
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty p = meta->property(i);
-        if (p.userType() != qMetaTypeId<TColor>() || !p.isWritable())
+        if (!IsColorProperty(p) || !p.isWritable())
             continue;
         const TColor value = p.read(component).value<TColor>();
         auto *box = new QComboBox(this);

@@ -2,28 +2,28 @@
 
 #include "componentregistry.h"
 
-#include "host/tcomponent.h"
-
 #include <QPainter>
 #include <QWidget>
 
 #include <memory>
 
-QImage ComponentIconImage(const TComponentEntry &entry, int side)
+namespace {
+
+// The posed component's picture, cut to at most twice as wide as high: a
+// long row shows its first cells, as an icon of a sliver says nothing.
+QImage iconPicture(const TComponentEntry &entry)
 {
-    std::unique_ptr<QWidget> component;
-    {
-        DesignTimeCreation designing;   // faces show, captions are the designer's
-        component.reset(entry.create(nullptr));
-    }
+    const std::unique_ptr<QWidget> component = CreateSample(entry);   // faces show, captions are the designer's
     if (entry.poseForIcon)
         entry.poseForIcon(component.get());
-    if (component->size().isEmpty() || !entry.visual)
-        component->resize(component->sizeHint());
     QImage picture = component->grab().toImage();
-    // A long row shows its first cells: an icon of a sliver says nothing.
     if (picture.width() > 2 * picture.height())
         picture = picture.copy(0, 0, 2 * picture.height(), picture.height());
+    return picture;
+}
+
+QImage fitted(const QImage &picture, int side)
+{
     QImage icon(side, side, QImage::Format_ARGB32_Premultiplied);
     icon.fill(Qt::transparent);
     if (picture.isNull())
@@ -34,10 +34,15 @@ QImage ComponentIconImage(const TComponentEntry &entry, int side)
     return icon;
 }
 
+} // namespace
+
+QImage ComponentIconImage(const TComponentEntry &entry, int side) { return fitted(iconPicture(entry), side); }
+
 QIcon ComponentIcon(const TComponentEntry &entry)
 {
+    const QImage picture = iconPicture(entry);
     QIcon icon;
     for (int side : {24, 48})
-        icon.addPixmap(QPixmap::fromImage(ComponentIconImage(entry, side)));
+        icon.addPixmap(QPixmap::fromImage(fitted(picture, side)));
     return icon;
 }

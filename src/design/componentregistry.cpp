@@ -102,14 +102,36 @@ const TComponentEntry *FindComponent(const QString &className)
     return nullptr;
 }
 
+const TComponentEntry *FindComponent(const QObject *object)
+{
+    return FindComponent(QString::fromLatin1(object->metaObject()->className()));
+}
+
+QStringList ReadOnlyProperties(const TComponentEntry &entry)
+{
+    return QString::fromLatin1(entry.readOnlyProperties).split(QLatin1Char(','), Qt::SkipEmptyParts);
+}
+
+namespace {
+QWidget *createDesigning(const TComponentEntry &entry, QWidget *parent)
+{
+    DesignTimeCreation designing;
+    return entry.create(parent);
+}
+} // namespace
+
 QWidget *CreateForDesigner(const TComponentEntry &entry, QWidget *parent)
 {
-    QWidget *w;
-    {
-        DesignTimeCreation designing;
-        w = entry.create(parent);
-    }
+    QWidget *w = createDesigning(entry, parent);
     if (auto *core = dynamic_cast<TComponentCore *>(w))
         core->QueueLoaded();
+    return w;
+}
+
+std::unique_ptr<QWidget> CreateSample(const TComponentEntry &entry)
+{
+    std::unique_ptr<QWidget> w(createDesigning(entry, nullptr));
+    if (w->size().isEmpty())
+        w->resize(w->sizeHint());
     return w;
 }

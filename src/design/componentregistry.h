@@ -4,12 +4,14 @@
 // and how to pose it for its palette icon. The plugin, the help generator
 // and the tests all read this one table.
 
-#include <QSize>
 #include <QString>
+#include <QStringList>
+#include <QWidget>
 
+#include <memory>
 #include <vector>
 
-class QWidget;
+class QObject;
 
 struct TComponentEntry
 {
@@ -33,8 +35,15 @@ QString PageName(int page);
 // In widget-box order.
 const std::vector<TComponentEntry> &Components();
 const TComponentEntry *FindComponent(const QString &className);
+// The entry of the object's class; null for a class not in the collection.
+const TComponentEntry *FindComponent(const QObject *object);
+// The entry's readOnlyProperties as a list.
+QStringList ReadOnlyProperties(const TComponentEntry &entry);
 
 // Makes a component as the form designer does: in design mode before its
 // first property is set, with Loaded queued for when its stored properties
 // are in.
 QWidget *CreateForDesigner(const TComponentEntry &entry, QWidget *parent);
+// One made in design mode on no form, at the size it first has on one: for
+// pictures, icons and the widget box's template. Never gets Loaded.
+std::unique_ptr<QWidget> CreateSample(const TComponentEntry &entry);

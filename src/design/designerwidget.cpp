@@ -9,7 +9,6 @@
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QExtensionManager>
 
-#include "host/tcomponent.h"
 
 #include <QIcon>
 #include <QPointer>
@@ -51,14 +50,7 @@ void TDesignerWidget::initialize(QDesignerFormEditorInterface *core)
 
 QString TDesignerWidget::domXml() const
 {
-    std::unique_ptr<QWidget> sample;
-    {
-        DesignTimeCreation designing;
-        sample.reset(FEntry.create(nullptr));
-    }
-    QSize size = sample->size();
-    if (size.isEmpty())
-        size = sample->sizeHint();
+    const QSize size = CreateSample(FEntry)->size();
     QString objectName = name().mid(name().startsWith(QLatin1String("Tqc")) ? 3 : 2);
     objectName[0] = objectName[0].toLower();
     return QStringLiteral("<ui language=\"c++\">\n"

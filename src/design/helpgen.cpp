@@ -10,7 +10,6 @@
 #include "helpviewer.h"
 
 #include "host/tcolor.h"
-#include "host/tcomponent.h"
 
 #include <QApplication>
 #include <QDir>
@@ -34,7 +33,7 @@ QString esc(const QString &s) { return s.toHtmlEscaped(); }
 
 QString valueText(const QMetaProperty &p, const QVariant &v)
 {
-    if (p.userType() == qMetaTypeId<TColor>())
+    if (IsColorProperty(p))
         return ColorToString(v.value<TColor>());
     if (p.isEnumType()) {
         const QMetaEnum e = p.enumerator();
@@ -80,13 +79,7 @@ QString componentPage(const TComponentEntry &e, const QString &htmlDir)
         << esc(PageName(e.page)) << "\" &middot; help topic " << e.helpContext << "</p>\n";
 
     // The picture: the component as it first appears on a form in Designer.
-    std::unique_ptr<QWidget> designed;
-    {
-        DesignTimeCreation designing;
-        designed.reset(e.create(nullptr));
-    }
-    if (designed->size().isEmpty() || !e.visual)
-        designed->resize(designed->sizeHint());
+    const std::unique_ptr<QWidget> designed = CreateSample(e);
     const QString picture = cls.toLower() + QStringLiteral(".png");
     designed->grab().save(htmlDir + QLatin1Char('/') + picture);
     out << "<p><img src=\"" << picture << "\" alt=\"" << cls << " on a form\"></p>\n";
@@ -96,7 +89,7 @@ QString componentPage(const TComponentEntry &e, const QString &htmlDir)
     // Properties with the defaults a component made by code has.
     std::unique_ptr<QWidget> fresh(e.create(nullptr));
     const QMetaObject *meta = fresh->metaObject();
-    const QStringList readOnly = QString::fromLatin1(e.readOnlyProperties).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    const QStringList readOnly = ReadOnlyProperties(e);
     out << "<h2>Properties</h2>\n<table><tr><th>Property</th><th>Type</th><th>Default</th></tr>\n";
     for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
         const QMetaProperty p = meta->property(i);

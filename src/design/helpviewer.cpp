@@ -33,9 +33,10 @@ QString assistantProgram()
 
 bool defaultViewer(const THelpRequest &request)
 {
-    const QDir dir(HelpDirectory());
-    if (dir.path().isEmpty() || HelpDirectory().isEmpty())
+    const QString folder = HelpDirectory();
+    if (folder.isEmpty())
         return false;
+    const QDir dir(folder);
     const QString collection = dir.filePath(QStringLiteral("qcol.qhc"));
     const QString assistant = assistantProgram();
     if (QFileInfo::exists(collection) && !assistant.isEmpty()) {

@@ -10,15 +10,11 @@
 #include <QColor>
 #include <QMetaProperty>
 
-namespace {
-const int kColorType = qMetaTypeId<TColor>();
-} // namespace
-
 TPropertySheet::TPropertySheet(QObject *object, QDesignerPropertySheetExtension *inner, QObject *parent)
     : QObject(parent), FObject(object), FInner(inner)
 {
-    if (const TComponentEntry *entry = FindComponent(QString::fromLatin1(object->metaObject()->className())))
-        for (const QString &name : QString::fromLatin1(entry->readOnlyProperties).split(QLatin1Char(','), Qt::SkipEmptyParts))
+    if (const TComponentEntry *entry = FindComponent(object))
+        for (const QString &name : ReadOnlyProperties(*entry))
             FReadOnly.insert(name);
 }
 
@@ -26,7 +22,7 @@ bool TPropertySheet::isColorProperty(int index) const
 {
     const QMetaObject *meta = FObject->metaObject();
     const int p = meta->indexOfProperty(FInner->propertyName(index).toLatin1().constData());
-    return p >= 0 && meta->property(p).userType() == kColorType;
+    return p >= 0 && IsColorProperty(meta->property(p));
 }
 
 bool TPropertySheet::isVisible(int index) const
@@ -64,7 +60,7 @@ TPropertySheetFactory::TPropertySheetFactory(QExtensionManager *parent) : QExten
 QObject *TPropertySheetFactory::createExtension(QObject *object, const QString &iid, QObject *parent) const
 {
     if (FAskingOthers || iid != QLatin1String(Q_TYPEID(QDesignerPropertySheetExtension))
-        || !FindComponent(QString::fromLatin1(object->metaObject()->className())))
+        || !FindComponent(object))
         return nullptr;
     FAskingOthers = true;
     auto *inner = qt_extension<QDesignerPropertySheetExtension *>(

@@ -25,7 +25,7 @@ TTaskMenu::TTaskMenu(QWidget *component, int helpContext, QObject *parent)
     // offers the system colours.
     const QMetaObject *meta = component->metaObject();
     for (int i = 0; i < meta->propertyCount(); ++i)
-        if (meta->property(i).userType() == qMetaTypeId<TColor>()) {
+        if (IsColorProperty(meta->property(i))) {
             auto *separator = new QAction(this);
             separator->setSeparator(true);
             auto *colours = new QAction(QStringLiteral("Colours..."), this);
@@ -65,7 +65,7 @@ QObject *TTaskMenuFactory::createExtension(QObject *object, const QString &iid, 
     if (iid != QLatin1String(Q_TYPEID(QDesignerTaskMenuExtension)))
         return nullptr;
     auto *widget = qobject_cast<QWidget *>(object);
-    const TComponentEntry *entry = FindComponent(QString::fromLatin1(object->metaObject()->className()));
+    const TComponentEntry *entry = FindComponent(object);
     if (!widget || !entry)
         return nullptr;
     return new TTaskMenu(widget, entry->helpContext, parent);

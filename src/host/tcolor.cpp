@@ -91,6 +91,11 @@ const bool kConvertersRegistered = [] {
 
 } // namespace
 
+bool IsColorProperty(const QMetaProperty &property)
+{
+    return property.userType() == qMetaTypeId<TColor>();
+}
+
 QString ColorToString(TColor color)
 {
     for (const NamedColor &n : kNamedColors)

@@ -5,6 +5,7 @@
 
 #include <QtGlobal>
 #include <QColor>
+#include <QMetaProperty>
 #include <QMetaType>
 #include <QRgb>
 #include <QString>
@@ -91,6 +92,9 @@ QRgb ColorToQRgb(TColor color);
 inline QColor ColorToQColor(TColor color) { return QColor::fromRgb(ColorToQRgb(color)); }
 TColor QColorToColor(const QColor &color);
 inline TColor QRgbToColor(QRgb rgb) { return RGB(qRed(rgb), qGreen(rgb), qBlue(rgb)); }
+
+// True for a property of type TColor.
+bool IsColorProperty(const QMetaProperty &property);
 
 // The framework's names: "clRed", "clBtnFace"; other values as "$00BBGGRR".
 QString ColorToString(TColor color);
