@@ -25,6 +25,9 @@ using Points = std::vector<TPoint>;
 // run against the axes the minor step waits for a strictly positive error, so
 // a line covers the same pixels whichever way it is drawn.
 Points LinePoints(TPoint a, TPoint b);
+// The same pixels, only those inside `clip`: a line reaching far outside
+// costs no more than the part that shows.
+Points LinePoints(TPoint a, TPoint b, const TRect &clip);
 
 // The interior of a polygon: pixel (x, y) is inside when the point (x, y)
 // lies inside the outline, with points on a left or top edge inside and on

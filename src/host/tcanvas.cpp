@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 
 using Raster::Span;
@@ -155,6 +156,20 @@ QFont TFont::ToQFont() const
     f.setStrikeOut(FStyle & fsStrikeOut);
     f.setStyleStrategy(QFont::NoAntialias);
     f.setHintingPreference(QFont::PreferFullHinting);
+    return f;
+}
+
+TFont TFont::FromQFont(const QFont &font, TColor color)
+{
+    TFont f;
+    f.FName = font.family();
+    if (font.pixelSize() > 0)
+        f.SetHeight(-font.pixelSize());
+    else
+        f.FSize = qRound(font.pointSizeF());
+    f.FColor = color;
+    f.FStyle = (font.bold() ? fsBold : 0) | (font.italic() ? fsItalic : 0) | (font.underline() ? fsUnderline : 0)
+        | (font.strikeOut() ? fsStrikeOut : 0);
     return f;
 }
 
@@ -310,8 +325,10 @@ void TCanvas::thinLines(const Raster::Points &pts, bool close)
     const std::vector<int> &pattern = dashPattern(Pen.Style());
     Spans spans;
     const size_t n = pts.size(), segments = close ? n : n - 1;
+    // Dashes count every pixel of the path, shown or not.
+    const TRect clip = pattern.empty() ? ClipRect() : Rect(INT_MIN / 2, INT_MIN / 2, INT_MAX / 2, INT_MAX / 2);
     for (size_t i = 0; i < segments; ++i) {
-        for (const TPoint &p : Raster::LinePoints(pts[i], pts[(i + 1) % n])) {
+        for (const TPoint &p : Raster::LinePoints(pts[i], pts[(i + 1) % n], clip)) {
             const bool on = pattern.empty() || dashOn(pattern, FDashPhase);
             ++FDashPhase;
             if (!on)

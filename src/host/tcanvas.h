@@ -11,6 +11,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QObject>
 #include <QRegion>
 #include <QString>
 
@@ -21,7 +22,15 @@ enum TPenMode {
     pmBlack, pmWhite, pmNop, pmNot, pmCopy, pmNotCopy, pmMergePenNot, pmMaskPenNot,
     pmMergeNotPen, pmMaskNotPen, pmMerge, pmNotMerge, pmMask, pmNotMask, pmXor, pmNotXor
 };
+
+// Brush styles are stored with forms (a meter's housing pattern), so the
+// form loader and the designer know them by name.
+namespace Graphics {
+Q_NAMESPACE
 enum TBrushStyle { bsSolid, bsClear, bsHorizontal, bsVertical, bsFDiagonal, bsBDiagonal, bsCross, bsDiagCross };
+Q_ENUM_NS(TBrushStyle)
+} // namespace Graphics
+using namespace Graphics;
 
 enum TFontStyle { fsBold = 1, fsItalic = 2, fsUnderline = 4, fsStrikeOut = 8 };
 using TFontStyles = int;
@@ -113,6 +122,8 @@ public:
     TFontStyles Style() const { return FStyle; }
     void SetStyle(TFontStyles s) { FStyle = s; }
     QFont ToQFont() const;
+    // A widget's font in these terms: family, size in points, styles.
+    static TFont FromQFont(const QFont &font, TColor color);
 
 private:
     QString FName = QStringLiteral("DejaVu Sans");

@@ -1,6 +1,9 @@
 #include "tcontrol.h"
 
+#include <QContextMenuEvent>
+#include <algorithm>
 #include <QDrag>
+#include <QMenu>
 #include <QEnterEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -165,6 +168,100 @@ void TControl::adoptParentColor()
         applyColor(control->Color());
     else
         applyColor(QColorToColor(parent->palette().color(parent->backgroundRole())));
+}
+
+void TControl::SetAlign(TAlign align)
+{
+    if (FAlign == align)
+        return;
+    FAlign = align;
+    if (QWidget *parent = parentWidget()) {
+        if (align != alNone)
+            parent->installEventFilter(this);
+        AlignControls(parent);
+    }
+}
+
+bool TControl::eventFilter(QObject *watched, QEvent *event)
+{
+    // The first aligned control of a parent lays out all of them.
+    if (watched == parentWidget() && event->type() == QEvent::Resize && FAlign != alNone) {
+        for (QObject *child : watched->children())
+            if (auto *c = qobject_cast<TControl *>(child); c && c->Align() != alNone) {
+                if (c == this)
+                    AlignControls(parentWidget());
+                break;
+            }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void AlignControls(QWidget *parent)
+{
+    QRect area = parent->contentsRect();
+    const QObjectList children = parent->children();
+    for (TAlign pass : {alTop, alBottom, alLeft, alRight, alClient})
+        for (QObject *child : children) {
+            auto *c = qobject_cast<TControl *>(child);
+            if (!c || c->Align() != pass || !c->Visible())
+                continue;
+            switch (pass) {
+            case alTop:
+                c->SetBounds(area.left(), area.top(), area.width(), c->height());
+                area.setTop(area.top() + c->height());
+                break;
+            case alBottom:
+                c->SetBounds(area.left(), area.bottom() + 1 - c->height(), area.width(), c->height());
+                area.setBottom(area.bottom() - c->height());
+                break;
+            case alLeft:
+                c->SetBounds(area.left(), area.top(), c->width(), area.height());
+                area.setLeft(area.left() + c->width());
+                break;
+            case alRight:
+                c->SetBounds(area.right() + 1 - c->width(), area.top(), c->width(), area.height());
+                area.setRight(area.right() - c->width());
+                break;
+            default:
+                c->SetBounds(area.left(), area.top(), std::max(0, area.width()), std::max(0, area.height()));
+                break;
+            }
+        }
+}
+
+void TControl::SetFont(const QFont &font)
+{
+    QFont own = font;
+    own.setResolveMask(QFont::AllPropertiesResolved);   // the whole font is the control's now
+    setFont(own);
+}
+
+void TControl::SetParentFont(bool parentFont)
+{
+    if (parentFont == ParentFont())
+        return;
+    if (parentFont)
+        setFont(QFont());   // inherits everything again
+    else
+        SetFont(font());
+}
+
+void TControl::SetFontColor(TColor color)
+{
+    if (FFontColor == color)
+        return;
+    FFontColor = color;
+    Invalidate();
+}
+
+void TControl::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (FPopupMenu) {
+        FPopupMenu->popup(event->globalPos());
+        event->accept();
+        return;
+    }
+    QWidget::contextMenuEvent(event);
 }
 
 bool TControl::ShowHint() const
@@ -358,8 +455,13 @@ bool TControl::event(QEvent *event)
     default:
         break;
     }
-    if (event->type() == QEvent::ParentChange)
+    if (event->type() == QEvent::ParentChange) {
         adoptParentColor();
+        if (FAlign != alNone && parentWidget()) {
+            parentWidget()->installEventFilter(this);
+            AlignControls(parentWidget());
+        }
+    }
     if (event->type() == QEvent::ToolTip && !ShowHint())
         return true;
     return QWidget::event(event);

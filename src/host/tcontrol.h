@@ -8,7 +8,11 @@
 
 #include <QImage>
 #include <QObject>
+#include <QMenu>
+#include <QPointer>
 #include <QWidget>
+
+
 
 namespace ControlStyles {
 enum : quint32 {
@@ -24,6 +28,19 @@ enum : quint32 {
 };
 }
 using namespace ControlStyles;
+
+// Types of the framework's controls that forms store by name.
+namespace Controls {
+Q_NAMESPACE
+// Where a control sits in its parent: pinned to an edge at its own height
+// or width, or filling what the others leave.
+enum TAlign { alNone, alTop, alBottom, alLeft, alRight, alClient };
+Q_ENUM_NS(TAlign)
+// The bevels of a panel-like frame.
+enum TPanelBevel { bvNone, bvLowered, bvRaised, bvSpace };
+Q_ENUM_NS(TPanelBevel)
+} // namespace Controls
+using namespace Controls;
 using TControlStyle = quint32;
 using TCursor = int;
 
@@ -60,6 +77,10 @@ public:
     bool ParentColor() const { return FParentColor; }
     virtual void SetParentColor(bool parentColor);
 
+    int Width() const { return width(); }
+    void SetWidth(int width) { SetBounds(x(), y(), width, height()); }
+    int Height() const { return height(); }
+    void SetHeight(int height) { SetBounds(x(), y(), width(), height); }
     int Left() const { return x(); }
     int Top() const { return y(); }
     void SetLeft(int left) { SetBounds(left, y(), width(), height()); }
@@ -92,6 +113,26 @@ public:
     // OnDragOver accepts it.
     void BeginDrag();
     bool Dragging() const { return FDragging; }
+
+    // Aligned controls are laid out again whenever the parent's size
+    // changes: top, then bottom, left, right, and the client last.
+    TAlign Align() const { return FAlign; }
+    void SetAlign(TAlign align);
+
+    // The font is the widget's own; ParentFont follows the parent's until a
+    // font is set. FontColor is the colour text is drawn in.
+    QFont Font() const { return font(); }
+    void SetFont(const QFont &font);
+    bool ParentFont() const { return !testAttribute(Qt::WA_SetFont); }
+    void SetParentFont(bool parentFont);
+    TColor FontColor() const { return FFontColor; }
+    void SetFontColor(TColor color);
+    // The font as a canvas takes it.
+    TFont CanvasFont() const { return TFont::FromQFont(font(), FFontColor); }
+
+    // Shown where the right mouse button is released over the control.
+    QMenu *PopupMenu() const { return FPopupMenu; }
+    void SetPopupMenu(QMenu *menu) { FPopupMenu = menu; }
 
     // The control's own flag: true unless it was hidden explicitly.
     bool Visible() const { return !(testAttribute(Qt::WA_WState_ExplicitShowHide) && isHidden()); }
@@ -174,6 +215,8 @@ protected:
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     bool acceptsDrag(QDropEvent *event, TDragState state);
@@ -199,10 +242,16 @@ private:
     TCursor FDragCursor = -12;
     TDragMode FDragMode = dmManual;
     TControlStyle FControlStyle = csCaptureMouse | csClickEvents | csDoubleClicks;
+    TAlign FAlign = alNone;
+    TColor FFontColor = clWindowText;
+    QPointer<QMenu> FPopupMenu;
     TCanvas *FCanvas = nullptr;
     QImage FBuffer;
     QRect FBounds;
 };
+
+// Lays out the aligned controls among the children of `parent`.
+void AlignControls(QWidget *parent);
 
 // A control without focus of its own (labels, cells, lamps).
 class TGraphicControl : public TControl

@@ -134,7 +134,23 @@ QString special(long double v)
 
 } // namespace
 
-bool FormatFloat(const QString &format, long double value, QString &out, const QLocale &locale)
+namespace {
+
+// One conversion of a format: [index:] [-] [width] [.precision] type.
+struct Spec
+{
+    int index = 0;
+    bool left = false;
+    int width = -1;
+    int precision = -1;
+    char type = 0;
+};
+
+// Walks `format`, copying plain text and "%%", and asks `convert` for the
+// text of each conversion (false: the format does not fit the arguments).
+// A '*' width or precision takes the next argument, which `integer` gives.
+template <class Convert, class Integer>
+bool formatWith(const QString &format, Convert convert, Integer integer, QString &out)
 {
     QString result;
     int nextArg = 0;
@@ -151,11 +167,16 @@ bool FormatFloat(const QString &format, long double value, QString &out, const Q
             result += QLatin1Char('%');
             continue;
         }
-        // [index:] [-] [width] [.precision] type
         const auto number = [&](int &value) {
-            if (i < n && format[i] == QLatin1Char('*'))
-                return false;   // would read an integer argument
             value = -1;
+            if (i < n && format[i] == QLatin1Char('*')) {
+                ++i;
+                long long v;
+                if (!integer(nextArg++, v))
+                    return false;
+                value = int(std::clamp<long long>(v, -1, 1000000));
+                return true;
+            }
             while (i < n && format[i].isDigit()) {
                 value = std::max(value, 0) * 10 + format[i].digitValue();
                 if (value > 1000000)
@@ -164,6 +185,7 @@ bool FormatFloat(const QString &format, long double value, QString &out, const Q
             }
             return true;
         };
+        Spec spec;
         int first;
         if (!number(first))
             return false;
@@ -174,56 +196,110 @@ bool FormatFloat(const QString &format, long double value, QString &out, const Q
             ++i;
             first = -1;
         }
-        bool left = false;
         if (first < 0 && i < n && format[i] == QLatin1Char('-')) {
-            left = true;
+            spec.left = true;
             ++i;
         }
-        int width = first;
-        if (width < 0 && !number(width))
+        spec.width = first;
+        if (spec.width < 0 && !number(spec.width))
             return false;
-        int precision = -1;
         if (i < n && format[i] == QLatin1Char('.')) {
             ++i;
-            if (!number(precision))
+            if (!number(spec.precision))
                 return false;
-            precision = std::max(precision, 0);
+            spec.precision = std::max(spec.precision, 0);
         }
         if (i >= n)
             return false;
-        if (nextArg != 0)
-            return false;   // there is only one argument
-        ++nextArg;
+        spec.index = nextArg++;
+        spec.type = format[i].toLower().toLatin1();
         QString text;
-        const char type = format[i].toLower().toLatin1();
-        const bool finite = std::isfinite(value);
-        switch (type) {
-        case 'e':
-            text = finite ? scientific(value, std::clamp(precision < 0 ? 15 : precision, 1, kMaxDigits), locale)
-                          : special(value);
-            break;
-        case 'f':
-        case 'n':
-            text = finite ? fixed(value, std::clamp(precision < 0 ? 2 : precision, 0, kMaxDigits), type == 'n', locale)
-                          : special(value);
-            break;
-        case 'g':
-            text = finite ? general(value, std::clamp(precision < 0 ? 15 : precision, 1, kMaxDigits), locale)
-                          : special(value);
-            break;
-        case 'm':
-            text = finite ? currency(value, std::clamp(precision < 0 ? 2 : precision, 0, kMaxDigits), locale)
-                          : special(value);
-            break;
-        default:
-            return false;   // d, u, x, s, p and anything unknown
-        }
-        if (width > text.size())
-            text = left ? text.leftJustified(width) : text.rightJustified(width);
+        if (!convert(spec, text))
+            return false;
+        if (spec.width > text.size())
+            text = spec.left ? text.leftJustified(spec.width) : text.rightJustified(spec.width);
         result += text;
     }
     out = result;
     return true;
+}
+
+} // namespace
+
+bool FormatFloat(const QString &format, long double value, QString &out, const QLocale &locale)
+{
+    const auto convert = [&](const Spec &spec, QString &text) {
+        if (spec.index != 0)
+            return false;   // there is only one argument
+        const bool finite = std::isfinite(value);
+        const int precision = spec.precision;
+        switch (spec.type) {
+        case 'e':
+            text = finite ? scientific(value, std::clamp(precision < 0 ? 15 : precision, 1, kMaxDigits), locale)
+                          : special(value);
+            return true;
+        case 'f':
+        case 'n':
+            text = finite ? fixed(value, std::clamp(precision < 0 ? 2 : precision, 0, kMaxDigits),
+                                  spec.type == 'n', locale)
+                          : special(value);
+            return true;
+        case 'g':
+            text = finite ? general(value, std::clamp(precision < 0 ? 15 : precision, 1, kMaxDigits), locale)
+                          : special(value);
+            return true;
+        case 'm':
+            text = finite ? currency(value, std::clamp(precision < 0 ? 2 : precision, 0, kMaxDigits), locale)
+                          : special(value);
+            return true;
+        default:
+            return false;   // d, u, x, s, p and anything unknown
+        }
+    };
+    // The one argument is a floating-point value: a '*' cannot read it.
+    return formatWith(format, convert, [](int, long long &) { return false; }, out);
+}
+
+bool FormatInt(const QString &format, const std::vector<long long> &args, QString &out)
+{
+    const auto arg = [&](int index, long long &v) {
+        if (index < 0 || size_t(index) >= args.size())
+            return false;
+        v = args[size_t(index)];
+        return true;
+    };
+    const auto convert = [&](const Spec &spec, QString &text) {
+        long long v;
+        if (!arg(spec.index, v))
+            return false;
+        switch (spec.type) {
+        case 'd':
+            text = QString::number(v < 0 ? -v : v);
+            break;
+        case 'u':
+            text = QString::number(quint32(v));
+            break;
+        case 'x':
+            text = QString::number(quint32(v), 16).toUpper();
+            break;
+        default:
+            return false;   // e, f, g, n, m, s, p need other arguments
+        }
+        if (spec.precision > text.size())   // at least that many digits
+            text = text.rightJustified(spec.precision, QLatin1Char('0'));
+        if (spec.type == 'd' && v < 0)
+            text.prepend(QLatin1Char('-'));
+        return true;
+    };
+    return formatWith(format, convert, arg, out);
+}
+
+QString Format(const QString &format, const std::vector<long long> &args)
+{
+    QString out;
+    if (!FormatInt(format, args, out))
+        return QStringLiteral("Format '%1' invalid or incompatible with argument").arg(format);
+    return out;
 }
 
 QString TimeToStr(const QTime &time, const QLocale &locale)

@@ -7,11 +7,20 @@
 #include <QLocale>
 #include <QString>
 
+#include <vector>
+
 // False when the format does not fit one floating-point argument (another
 // conversion such as %d or %s, a second conversion, a '*' width, a format
 // that ends inside a specifier); `out` is then left as it was.
 bool FormatFloat(const QString &format, long double value, QString &out,
                  const QLocale &locale = QLocale());
+
+// The same for integer arguments: %d, %u and %x (upper-case hex), with
+// index, width, '*' and precision as a minimum number of digits.
+bool FormatInt(const QString &format, const std::vector<long long> &args, QString &out);
+// The framework's Format of integers: the formatted text, or the message
+// the framework gives for a format that does not fit its arguments.
+QString Format(const QString &format, const std::vector<long long> &args);
 
 class QTime;
 // The time in the locale's long time format, as a panel shows it: hours,
