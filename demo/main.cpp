@@ -6,7 +6,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTimer>
-#include <QVBoxLayout>
+#include <QGridLayout>
 #include <QWidget>
 
 #include <cstdio>
@@ -26,10 +26,11 @@ int main(int argc, char **argv)
 
     QWidget window;
     window.setWindowTitle(QApplication::applicationName());
-    auto *layout = new QVBoxLayout(&window);
-    layout->addWidget(displaysSection(&window));
-    layout->addWidget(servicesSection(&window));
-    layout->addStretch();
+    auto *layout = new QGridLayout(&window);
+    layout->addWidget(displaysSection(&window), 0, 0);
+    layout->addWidget(servicesSection(&window), 1, 0);
+    layout->addWidget(instrumentsSection(&window), 0, 1, 2, 1);
+    layout->setRowStretch(2, 1);
     window.show();
 
     if (parser.isSet(screenshot)) {

@@ -4,4 +4,5 @@
 #include <QGroupBox>
 
 QGroupBox *displaysSection(QWidget *parent);
+QGroupBox *instrumentsSection(QWidget *parent);
 QGroupBox *servicesSection(QWidget *parent);

@@ -4,7 +4,9 @@
 // read back by QUiLoader; the component editor's verbs and the help.
 #include "design/qcinit01.h"
 #include "design/qs_vcl32.h"
+#include "design/qgaugeeditor.h"
 #include "displays/qseg.h"
+#include "indicators/qgauge.h"
 #include "services/mystd.h"
 
 #include <QtDesigner/QDesignerComponents>
@@ -25,6 +27,8 @@
 #include <QMessageBox>
 #include <QMetaProperty>
 #include <QPluginLoader>
+#include <QRadioButton>
+#include <QUndoStack>
 #include <QUiLoader>
 #include <QtTest>
 
@@ -63,17 +67,26 @@ QVariant otherValue(const QMetaProperty &p, const QVariant &v)
     case QMetaType::Double: return v.toDouble() + 1.5;
     case QMetaType::QString: return QStringLiteral("2.5");
     case QMetaType::QChar: return QChar(u'Q');
+    case QMetaType::QFont: {
+        QFont f = v.value<QFont>();
+        f.setPointSize(f.pointSize() + 3);
+        f.setBold(true);
+        return f;
+    }
     default: return QVariant();
     }
 }
 
-// The stored properties a component adds to QWidget's.
+// The stored properties a component adds to QWidget's. Pictures are left
+// out: a form stores them as references to files or resources, which
+// Designer's own resource handling keeps.
 QList<QMetaProperty> storedProperties(const QObject *o)
 {
     QList<QMetaProperty> out;
     const QMetaObject *m = o->metaObject();
     for (int i = QWidget::staticMetaObject.propertyCount(); i < m->propertyCount(); ++i)
-        if (m->property(i).isStored() && m->property(i).isWritable() && qstrcmp(m->property(i).name(), "Name"))
+        if (m->property(i).isStored() && m->property(i).isWritable() && qstrcmp(m->property(i).name(), "Name")
+            && m->property(i).metaType().id() != QMetaType::QPixmap)
             out << m->property(i);
     return out;
 }
@@ -119,6 +132,7 @@ private slots:
     void colourPropertiesAreColoursAndKeepSystemColours();
     void systemColoursAreChosenInTheColoursDialog();
     void calculatorResultsAreReadOnly();
+    void gaugeCaptionStyleFromItsEditor();
     void verbsOpenTheHelpAtTheContextNumber();
     void helpPagesAreBuilt();
     void uicCompiledFormMatchesTheLoadedOne();
@@ -310,6 +324,35 @@ void tst_Designer::systemColoursAreChosenInTheColoursDialog()
     std::unique_ptr<QWidget> loaded(loader.load(&file));
     QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->UnLitColor(), clBtnShadow);
     QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->LitColor(), clAqua);
+}
+
+void tst_Designer::gaugeCaptionStyleFromItsEditor()
+{
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqGauge\" name=\"gauge\"/></widget></ui>")));
+    auto *gauge = d->form->mainContainer()->findChild<TqGauge *>("gauge");
+    auto *menu = d->extension<QDesignerTaskMenuExtension>(gauge);
+    QAction *edit = menu->preferredEditAction();   // what a double-click opens
+    QVERIFY(edit && menu->taskActions().contains(edit));
+    const auto pick = [&](int style, bool ok) {
+        edit->trigger();
+        auto *editor = gauge->window()->findChild<TqGaugeEditor *>();
+        QVERIFY(editor && editor->isVisible());
+        QCOMPARE(editor->CaptionStyle(), int(gauge->CaptionStyle()));   // opens on the current style
+        auto radios = editor->findChildren<QRadioButton *>();
+        QCOMPARE(radios.size(), 4);
+        QTest::mouseClick(radios[style], Qt::LeftButton);
+        ok ? editor->accept() : editor->reject();
+        QTRY_VERIFY(!gauge->window()->findChild<TqGaugeEditor *>());
+    };
+    pick(TqGauge::gaTotPct, false);
+    QCOMPARE(gauge->CaptionStyle(), TqGauge::gaPctBar);   // Cancel leaves it
+    pick(TqGauge::gaTotPct, true);
+    QCOMPARE(gauge->CaptionStyle(), TqGauge::gaTotPct);
+    QVERIFY(d->form->contents().contains(QStringLiteral("gaTotPct")));   // stored with the form
+    d->form->commandHistory()->undo();
+    QCOMPARE(gauge->CaptionStyle(), TqGauge::gaPctBar);
 }
 
 void tst_Designer::calculatorResultsAreReadOnly()

@@ -2,10 +2,15 @@
 
 #include "displays/qseg.h"
 #include "host/tcontrol.h"
+#include "indicators/qgauge.h"
+#include "indicators/qled.h"
+#include "instruments/qpanel.h"
 #include "services/mystd.h"
 #include "services/std2.h"
 
 #include <QTime>
+
+#include <cmath>
 
 namespace {
 
@@ -45,9 +50,41 @@ void poseDotClock(QWidget *w)
     clock->SetCaption(QStringLiteral("12:00"));
 }
 
+void poseLed(QWidget *w)
+{
+    auto *led = static_cast<TqLed *>(w);
+    led->SetBounds(0, 0, 34, 34);
+    led->writeLedOn(true);
+}
+
+void poseGauge(QWidget *w)
+{
+    auto *gauge = static_cast<TqGauge *>(w);
+    gauge->SetValue(60);
+    gauge->SetCaption(QStringLiteral("%d%%"));
+}
+
+void poseScope(QWidget *w)
+{
+    auto *scope = static_cast<TqScope *>(w);
+    scope->SetBounds(0, 0, 60, 40);
+    scope->SetStepX(12);
+    scope->SetStepY(25);
+    for (int i = 0; i < 60; ++i) {
+        scope->SetIn1(50 + int(40 * std::sin(i / 4.0)));
+        scope->Push();
+    }
+}
+
+void posePanelMeter(QWidget *w) { static_cast<TqPanelMeter *>(w)->SetValue(65); }
+
 // Widget-box order: the pages in order, within a page the order of the
 // palette rows; the tray icon closes the second page.
 const std::vector<TComponentEntry> kComponents = {
+    {"TqLed", "indicators/qled.h", 0, 11, "LED lamp",
+     "A round or square LED in eight colours, lit or unlit, with a grey bezel, optionally "
+     "on the steel texture; it can blink by itself.",
+     make<TqLed>, poseLed, true},
     {"TqSegment", "displays/qseg.h", 0, 12, "Sixteen-segment character",
      "One character cell with sixteen segments, a decimal point and a colon, in 15 sizes "
      "and any lit and unlit colour.",
@@ -69,6 +106,18 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqcDotClock", "displays/qseg.h", 0, 47, "Dot-matrix clock",
      "The time of day on dot-matrix cells, with or without seconds.",
      make<TqcDotClock>, poseDotClock, true},
+    {"TqGauge", "indicators/qgauge.h", 0, 15, "Gauge",
+     "A value between Min and Max as a bar filled from the left, continuous with a formatted "
+     "caption or as a row of LED-like blocks, plain or cut from a tiled picture.",
+     make<TqGauge>, poseGauge, true},
+    {"TqScope", "instruments/qpanel.h", 0, 32, "Trace display",
+     "Two channels of pushed samples drawn as scrolling beams over a grid, the newest at "
+     "the right edge.",
+     make<TqScope>, poseScope, true},
+    {"TqPanelMeter", "instruments/qpanel.h", 0, 33, "Needle meter",
+     "An analogue panel meter: round scale with a needle, or an edgewise scale with a "
+     "pointer, with an alert zone that raises events when the value crosses it.",
+     make<TqPanelMeter>, posePanelMeter, true},
     {"TqCalc", "services/mystd.h", 1, 26, "Expression calculator",
      "Evaluates a line of arithmetic with functions, constants and nine result registers "
      "whenever CalcLine is assigned. Invisible at run time.",

@@ -2,6 +2,7 @@
 
 #include "colorsdialog.h"
 #include "componentregistry.h"
+#include "propertyeditors.h"
 
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
@@ -20,6 +21,29 @@ TTaskMenu::TTaskMenu(QWidget *component, int helpContext, QObject *parent)
             FEditor.ExecuteVerb(i, FComponent ? FComponent->window() : nullptr);
         });
         FActions << action;
+    }
+    const auto editors = PropertyEditorsFor(component);
+    if (!editors.empty()) {
+        auto *separator = new QAction(this);
+        separator->setSeparator(true);
+        FActions << separator;
+    }
+    for (const TPropertyEditorEntry *editor : editors) {
+        auto *action = new QAction(QString::fromLatin1(editor->verb), this);
+        action->setObjectName(QStringLiteral("qcolEdit") + QLatin1String(editor->property));
+        connect(action, &QAction::triggered, this, [this, editor] {
+            if (!FComponent)
+                return;
+            QDialog *dialog = editor->create(FComponent, FComponent->window());
+            dialog->setAttribute(Qt::WA_DeleteOnClose);
+            connect(dialog, &QDialog::accepted, this, [this, editor, dialog] {
+                writeBack(QString::fromLatin1(editor->property), editor->value(dialog));
+            });
+            dialog->open();
+        });
+        FActions << action;
+        if (!FPreferred)
+            FPreferred = action;
     }
     // Where the component has colour properties: the dialog that also
     // offers the system colours.
@@ -45,17 +69,26 @@ void TTaskMenu::editColours()
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         if (!FComponent)
             return;
-        // Through the form window's cursor: one undoable change each, marked
-        // as changed so the form stores it.
-        QDesignerFormWindowInterface *form = QDesignerFormWindowInterface::findFormWindow(FComponent);
-        for (const auto &[name, color] : dialog->Changes()) {
-            if (form)
-                form->cursor()->setWidgetProperty(FComponent, name, ColorToFormColor(color));
-            else
-                FComponent->setProperty(name.toLatin1().constData(), QVariant::fromValue(color));
-        }
+        for (const auto &[name, color] : dialog->Changes())
+            writeBack(name, QVariant::fromValue(color));
     });
     dialog->open();
+}
+
+// Through the form window's cursor: one undoable change, marked as changed
+// so the form stores it.
+void TTaskMenu::writeBack(const QString &property, const QVariant &value)
+{
+    if (!FComponent)
+        return;
+    QDesignerFormWindowInterface *form = QDesignerFormWindowInterface::findFormWindow(FComponent);
+    if (form)
+        form->cursor()->setWidgetProperty(FComponent, property,
+                                          value.metaType() == QMetaType::fromType<TColor>()
+                                              ? ColorToFormColor(value.value<TColor>())
+                                              : value);
+    else
+        FComponent->setProperty(property.toLatin1().constData(), value);
 }
 
 TTaskMenuFactory::TTaskMenuFactory(QExtensionManager *parent) : QExtensionFactory(parent) {}

@@ -20,17 +20,21 @@ class TTaskMenu : public QObject, public QDesignerTaskMenuExtension
 public:
     TTaskMenu(QWidget *component, int helpContext, QObject *parent);
 
-    QAction *preferredEditAction() const override { return nullptr; }
+    // A double-click opens the component's first property editor.
+    QAction *preferredEditAction() const override { return FPreferred; }
     // The three verbs first, each with the component's help context number
-    // as its data; then, for a component with colour properties, "Colours...".
+    // as its data; then the component's property editors ("Caption
+    // Style..."); then, for a component with colour properties, "Colours...".
     QList<QAction *> taskActions() const override { return FActions; }
 
 private:
     void editColours();
+    void writeBack(const QString &property, const QVariant &value);
 
     QPointer<QWidget> FComponent;
     TComponentEditor FEditor;
     QList<QAction *> FActions;
+    QAction *FPreferred = nullptr;
 };
 
 class TTaskMenuFactory : public QExtensionFactory

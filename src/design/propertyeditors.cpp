@@ -1,0 +1,31 @@
+#include "propertyeditors.h"
+
+#include "qgaugeeditor.h"
+
+#include <QWidget>
+
+namespace {
+
+QDialog *createGaugeEditor(QWidget *component, QWidget *parent)
+{
+    return new TqGaugeEditor(component->property("CaptionStyle").toInt(), parent);
+}
+
+QVariant gaugeEditorValue(QDialog *dialog) { return static_cast<TqGaugeEditor *>(dialog)->CaptionStyle(); }
+
+const std::vector<TPropertyEditorEntry> kEditors = {
+    {"TqGauge", "CaptionStyle", "Caption Style...", createGaugeEditor, gaugeEditorValue},
+};
+
+} // namespace
+
+const std::vector<TPropertyEditorEntry> &PropertyEditors() { return kEditors; }
+
+std::vector<const TPropertyEditorEntry *> PropertyEditorsFor(const QWidget *component)
+{
+    std::vector<const TPropertyEditorEntry *> out;
+    for (const TPropertyEditorEntry &e : kEditors)
+        if (component->inherits(e.className))
+            out.push_back(&e);
+    return out;
+}
