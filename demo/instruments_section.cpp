@@ -136,7 +136,7 @@ QGroupBox *instrumentsSection(QWidget *parent)
     feed->SetInterval(40);
     auto step = [scope, t = 0]() mutable {
         ++t;
-        scope->SetIn1(50 + int(std::lround(35 * std::sin(t / 6.0))));
+        scope->SetIn1(50 + int(std::lround(35 * std::sin(t / 10.0))));
         scope->SetIn2((t / 25) % 2 ? 80 : 20);
         scope->Push();
     };

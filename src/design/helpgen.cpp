@@ -43,6 +43,10 @@ QString valueText(const QMetaProperty &p, const QVariant &v)
         return QLatin1Char('"') + v.toString() + QLatin1Char('"');
     if (v.metaType().id() == QMetaType::Bool)
         return v.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    if (v.metaType().id() == QMetaType::QFont)
+        return QStringLiteral("the parent's");
+    if (v.metaType().id() == QMetaType::QPixmap)
+        return QStringLiteral("none");
     return v.toString();
 }
 

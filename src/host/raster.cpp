@@ -52,38 +52,7 @@ Points LinePoints(TPoint a, TPoint b)
 Points LinePoints(TPoint a, TPoint b, const TRect &clip)
 {
     Points out;
-    if (clip.IsEmpty())
-        return out;
-    const long long dx = (long long)b.X - a.X, dy = (long long)b.Y - a.Y;
-    int octant;
-    if (dy > 0)
-        octant = dx > 0 ? (dx > dy ? 1 : 2) : (-dx > dy ? 4 : 3);
-    else
-        octant = dx < 0 ? (-dx > -dy ? 5 : 6) : (dx > -dy ? 8 : 7);
-    const long long bias = (octant == 3 || octant == 5 || octant == 6 || octant == 8) ? 1 : 0;
-    const bool xMajor = octant == 1 || octant == 4 || octant == 5 || octant == 8;
-    const long long major = xMajor ? std::llabs(dx) : std::llabs(dy);
-    const long long minor = xMajor ? std::llabs(dy) : std::llabs(dx);
-    const long long sx = (octant == 1 || octant == 2 || octant == 7 || octant == 8) ? 1 : -1;
-    const long long sy = octant <= 4 ? 1 : -1;
-    if (major == 0)
-        return out;
-    // The steps whose major coordinate lies inside the clip.
-    const long long start = xMajor ? a.X : a.Y, step = xMajor ? sx : sy;
-    const long long lo = xMajor ? clip.Left : clip.Top, hi = (xMajor ? clip.Right : clip.Bottom) - 1;
-    long long first = step > 0 ? lo - start : start - hi;
-    long long last = step > 0 ? hi - start : start - lo;
-    first = std::max(first, 0LL);
-    last = std::min(last, major - 1);
-    // The minor offset after i steps, as the walk above reaches it.
-    const auto minorAt = [&](long long i) { return (2 * minor * i + major + bias - 1) / (2 * major); };
-    for (long long i = first; i <= last; ++i) {
-        const long long m = minorAt(i);
-        const long long x = xMajor ? a.X + sx * i : a.X + sx * m;
-        const long long y = xMajor ? a.Y + sy * m : a.Y + sy * i;
-        if (x >= clip.Left && x < clip.Right && y >= clip.Top && y < clip.Bottom)
-            out.push_back({int(x), int(y)});
-    }
+    WalkLine(a, b, clip, [&](int x, int y) { out.push_back({x, y}); });
     return out;
 }
 

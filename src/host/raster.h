@@ -28,6 +28,9 @@ Points LinePoints(TPoint a, TPoint b);
 // The same pixels, only those inside `clip`: a line reaching far outside
 // costs no more than the part that shows.
 Points LinePoints(TPoint a, TPoint b, const TRect &clip);
+// Calls visit(x, y) for each of those pixels in order, without collecting them.
+template <class Visit>
+void WalkLine(TPoint a, TPoint b, const TRect &clip, Visit visit);
 
 // The interior of a polygon: pixel (x, y) is inside when the point (x, y)
 // lies inside the outline, with points on a left or top edge inside and on
@@ -63,5 +66,57 @@ Spans RoundRectRegionSpans(int left, int top, int right, int bottom, int cornerW
 // to the ellipse centre (r.Left + w / 2, r.Top + h / 2). Equal rays give the
 // whole ellipse.
 Points ArcPoints(const TRect &r, TPoint start, TPoint end);
+
+template <class Visit>
+void WalkLine(TPoint a, TPoint b, const TRect &clip, Visit visit)
+{
+    if (clip.IsEmpty())
+        return;
+    const long long dx = (long long)b.X - a.X, dy = (long long)b.Y - a.Y;
+    int octant;
+    if (dy > 0)
+        octant = dx > 0 ? (dx > dy ? 1 : 2) : (-dx > dy ? 4 : 3);
+    else
+        octant = dx < 0 ? (-dx > -dy ? 5 : 6) : (dx > -dy ? 8 : 7);
+    const long long bias = (octant == 3 || octant == 5 || octant == 6 || octant == 8) ? 1 : 0;
+    const bool xMajor = octant == 1 || octant == 4 || octant == 5 || octant == 8;
+    const long long major = xMajor ? (dx < 0 ? -dx : dx) : (dy < 0 ? -dy : dy);
+    const long long minor = xMajor ? (dy < 0 ? -dy : dy) : (dx < 0 ? -dx : dx);
+    const long long sx = (octant == 1 || octant == 2 || octant == 7 || octant == 8) ? 1 : -1;
+    const long long sy = octant <= 4 ? 1 : -1;
+    if (major == 0)
+        return;
+    // The steps whose major coordinate lies inside the clip.
+    const long long start = xMajor ? a.X : a.Y, step = xMajor ? sx : sy;
+    const long long lo = xMajor ? clip.Left : clip.Top, hi = (xMajor ? clip.Right : clip.Bottom) - 1;
+    long long first = step > 0 ? lo - start : start - hi;
+    long long last = step > 0 ? hi - start : start - lo;
+    if (first < 0)
+        first = 0;
+    if (last > major - 1)
+        last = major - 1;
+    if (first > last)
+        return;
+    // The walk's state after `first` steps: its minor offset and error.
+    long long m = (2 * minor * first + major + bias - 1) / (2 * major);
+    long long err = 2 * minor - major + 2 * minor * first - 2 * major * m;
+    long long x = xMajor ? a.X + sx * first : a.X + sx * m;
+    long long y = xMajor ? a.Y + sy * m : a.Y + sy * first;
+    for (long long i = first; i <= last; ++i) {
+        if (x >= clip.Left && x < clip.Right && y >= clip.Top && y < clip.Bottom)
+            visit(int(x), int(y));
+        const bool stepMinor = err + bias > 0;
+        err += stepMinor ? 2 * minor - 2 * major : 2 * minor;
+        if (xMajor) {
+            x += sx;
+            if (stepMinor)
+                y += sy;
+        } else {
+            y += sy;
+            if (stepMinor)
+                x += sx;
+        }
+    }
+}
 
 } // namespace Raster

@@ -214,6 +214,18 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
     const bool clipped = !FClip.isEmpty();
     // Hatch gaps stay untouched only where the pattern takes part.
     const bool gaps = usesPattern(rop);
+    if (!clipped && rop == 0xF0 && !source.hatch && !source.bitmap) {   // plain copy: the common case
+        const quint32 colour = 0xFF000000u | source.color;
+        for (const Span &s : spans) {
+            if (s.y < 0 || s.y >= h)
+                continue;
+            const int x0 = std::max(s.x0, 0), x1 = std::min(s.x1, w - 1);
+            auto *row = reinterpret_cast<QRgb *>(FImage->scanLine(s.y));
+            for (int x = x0; x <= x1; ++x)
+                row[x] = colour;
+        }
+        return;
+    }
     for (const Span &s : spans) {
         if (s.y < 0 || s.y >= h)
             continue;
@@ -323,21 +335,27 @@ void TCanvas::thinLines(const Raster::Points &pts, bool close)
     if (Pen.Style() == psClear || pts.size() < 2)
         return;
     const std::vector<int> &pattern = dashPattern(Pen.Style());
-    Spans spans;
+    Spans &spans = FScratch;
+    spans.clear();
+    const auto add = [&](int x, int y) {
+        if (!spans.empty() && spans.back().y == y && spans.back().x1 + 1 == x)
+            spans.back().x1 = x;
+        else
+            spans.push_back({y, x, x});
+    };
     const size_t n = pts.size(), segments = close ? n : n - 1;
-    // Dashes count every pixel of the path, shown or not.
-    const TRect clip = pattern.empty() ? ClipRect() : Rect(INT_MIN / 2, INT_MIN / 2, INT_MAX / 2, INT_MAX / 2);
-    for (size_t i = 0; i < segments; ++i) {
-        for (const TPoint &p : Raster::LinePoints(pts[i], pts[(i + 1) % n], clip)) {
-            const bool on = pattern.empty() || dashOn(pattern, FDashPhase);
-            ++FDashPhase;
-            if (!on)
-                continue;
-            if (!spans.empty() && spans.back().y == p.Y && spans.back().x1 + 1 == p.X)
-                spans.back().x1 = p.X;
-            else
-                spans.push_back({p.Y, p.X, p.X});
-        }
+    if (pattern.empty()) {
+        const TRect clip = ClipRect();
+        for (size_t i = 0; i < segments; ++i)
+            Raster::WalkLine(pts[i], pts[(i + 1) % n], clip, add);
+    } else {
+        // Dashes count every pixel of the path, shown or not.
+        const TRect all = Rect(INT_MIN / 2, INT_MIN / 2, INT_MAX / 2, INT_MAX / 2);
+        for (size_t i = 0; i < segments; ++i)
+            Raster::WalkLine(pts[i], pts[(i + 1) % n], all, [&](int x, int y) {
+                if (dashOn(pattern, FDashPhase++))
+                    add(x, y);
+            });
     }
     plot(spans, Source::solid(Pen.Color()), penRop());
 }

@@ -209,6 +209,7 @@ private:
     QRegion FClip;
     TPoint FPenPos;
     int FDashPhase = 0;
+    Raster::Spans FScratch;   // reused by each stroke
 };
 
 // Raised or sunken frame: top and left in `top`, bottom and right in
