@@ -39,6 +39,7 @@ TGaugeBlocks GaugeBlocks(const TRect &bar, int fillEnd, int count, int spacing)
 TqGauge::TqGauge(QWidget *parent) : TGraphicControl(parent)
 {
     SetBounds(x(), y(), 75, 30);
+    SetShowHint(false);
 }
 
 void TqGauge::Loaded()
