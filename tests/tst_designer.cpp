@@ -67,6 +67,7 @@ QVariant otherValue(const QMetaProperty &p, const QVariant &v)
     case QMetaType::Double: return v.toDouble() + 1.5;
     case QMetaType::QString: return QStringLiteral("2.5");
     case QMetaType::QChar: return QChar(u'Q');
+    case QMetaType::QStringList: return v.toStringList() << QStringLiteral("low") << QStringLiteral("high");
     case QMetaType::QFont: {
         QFont f = v.value<QFont>();
         f.setPointSize(f.pointSize() + 3);

@@ -6,6 +6,7 @@
 #include "indicators/qled.h"
 #include "instruments/qpanel.h"
 #include "services/mystd.h"
+#include "slidebar/slidebar.h"
 #include "services/std2.h"
 
 #include <QTime>
@@ -78,6 +79,30 @@ void poseScope(QWidget *w)
 
 void posePanelMeter(QWidget *w) { static_cast<TqPanelMeter *>(w)->SetValue(65); }
 
+void poseKnob(QWidget *w) { static_cast<TqKnob *>(w)->SetKnobValue(70); }
+
+void poseDblKnob(QWidget *w)
+{
+    auto *knob = static_cast<TqDblKnob *>(w);
+    knob->SetKnobValue(25);
+    knob->SetKnobValue2(75);
+}
+
+void poseTripKnob(QWidget *w)
+{
+    auto *knob = static_cast<TqTripKnob *>(w);
+    knob->SetKnobValue(20);
+    knob->SetKnobValue2(60);
+    knob->SetKnobValue3(90);
+}
+
+void poseSlideBar(QWidget *w)
+{
+    auto *bar = static_cast<TqSlideBar *>(w);
+    bar->SetBounds(0, 0, 60, 24);
+    bar->SetPosition(6);
+}
+
 // Widget-box order: the pages in order, within a page the order of the
 // palette rows; the tray icon closes the second page.
 const std::vector<TComponentEntry> kComponents = {
@@ -128,6 +153,22 @@ const std::vector<TComponentEntry> kComponents = {
      "A timer that sleeps in a worker thread of its own and raises OnTimer on the GUI "
      "thread. Invisible at run time.",
      make<TqcTimer>, nullptr, false},
+    {"TqKnob", "instruments/qpanel.h", 2, 34, "Rotary knob",
+     "A shaded, round knob whose pointer shows a value; the value follows the mouse angle "
+     "around the centre, or the keyboard.",
+     make<TqKnob>, poseKnob, true},
+    {"TqDblKnob", "instruments/qpanel.h", 2, 35, "Double knob",
+     "A rotary knob with an inner disc of its own value: the mouse picks a disc where it is "
+     "pressed, Shift picks the inner one from the keyboard.",
+     make<TqDblKnob>, poseDblKnob, true},
+    {"TqTripKnob", "instruments/qpanel.h", 2, 36, "Triple knob",
+     "A rotary knob with three concentric discs, each with its own value; Ctrl picks the "
+     "innermost from the keyboard.",
+     make<TqTripKnob>, poseTripKnob, true},
+    {"TqSlideBar", "slidebar/slidebar.h", 2, 16, "Slide bar",
+     "A slider with tick marks and a thumb in one of sixteen shapes, horizontal or vertical "
+     "by its shape, set by dragging, clicking beside the thumb or the keyboard.",
+     make<TqSlideBar>, poseSlideBar, true},
 };
 
 } // namespace

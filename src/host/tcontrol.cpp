@@ -157,17 +157,20 @@ void TControl::parentColorChanged(TColor color)
         applyColor(color);
 }
 
-void TControl::adoptParentColor()
+TColor TControl::ParentBrushColor() const
 {
-    if (!FParentColor)
-        return;
     QWidget *parent = parentWidget();
     if (!parent)
-        return;
+        return FColor;
     if (auto *control = qobject_cast<TControl *>(parent))
-        applyColor(control->Color());
-    else
-        applyColor(QColorToColor(parent->palette().color(parent->backgroundRole())));
+        return control->Color();
+    return QColorToColor(parent->palette().color(parent->backgroundRole()));
+}
+
+void TControl::adoptParentColor()
+{
+    if (FParentColor && parentWidget())
+        applyColor(ParentBrushColor());
 }
 
 void TControl::SetAlign(TAlign align)

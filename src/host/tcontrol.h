@@ -75,6 +75,9 @@ public:
     TColor Color() const { return FColor; }
     virtual void SetColor(TColor color);
     bool ParentColor() const { return FParentColor; }
+    // The colour the parent fills its background with (the control's own
+    // colour when it has no parent).
+    TColor ParentBrushColor() const;
     virtual void SetParentColor(bool parentColor);
 
     int Width() const { return width(); }
@@ -270,6 +273,12 @@ class TCustomControl : public TControl
 public:
     explicit TCustomControl(QWidget *parent = nullptr);
 
+    // Tab reaches the control; a click focuses it either way.
+    bool TabStop() const { return focusPolicy() & Qt::TabFocus; }
+    void SetTabStop(bool stop) { setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus); }
+    bool Enabled() const { return isEnabled(); }
+    void SetEnabled(bool enabled) { setEnabled(enabled); }
+
 signals:
     void OnKeyDown(QObject *Sender, quint16 &Key, int Shift);
     void OnKeyPress(QObject *Sender, char &Key);
@@ -289,6 +298,12 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 };
+
+// The platform's virtual-key codes that controls handle by name.
+constexpr quint16 VK_BACK = 0x08, VK_TAB = 0x09, VK_RETURN = 0x0D, VK_SHIFT = 0x10, VK_CONTROL = 0x11,
+    VK_MENU = 0x12, VK_ESCAPE = 0x1B, VK_SPACE = 0x20, VK_PRIOR = 0x21, VK_NEXT = 0x22, VK_END = 0x23,
+    VK_HOME = 0x24, VK_LEFT = 0x25, VK_UP = 0x26, VK_RIGHT = 0x27, VK_DOWN = 0x28, VK_INSERT = 0x2D,
+    VK_DELETE = 0x2E, VK_ADD = 0x6B, VK_SUBTRACT = 0x6D;
 
 // The platform's virtual-key code of a Qt key (0 when it has none).
 quint16 VirtualKey(int qtKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -1,5 +1,6 @@
 #include "qpanelmeter.h"
 
+#include "host/tscale.h"
 #include "host/tsteel.h"
 
 #include <algorithm>
@@ -12,23 +13,9 @@ constexpr double kFullTurn = 6.283185307179586;
 // Round to nearest, ties to even.
 int roundEven(double v) { return int(std::nearbyint(v)); }
 
-long long floorDiv(long long a, long long b)
-{
-    long long q = a / b;
-    if ((a % b != 0) && ((a < 0) != (b < 0)))
-        --q;
-    return q;
-}
-
 } // namespace
 
-int MeterPercent(int value, int min, int max)
-{
-    const long long span = (long long)max - min;
-    if (span == 0)
-        return 0;
-    return int(((long long)value - min) * 100 / span);
-}
+int MeterPercent(int value, int min, int max) { return ScalePercent(value, min, max); }
 
 TMeterGeometry MeterGeometry(int width, int height)
 {
@@ -154,30 +141,9 @@ void TqPanelMeter::Steel()
 template <class Mark>
 void TqPanelMeter::forEachMark(bool ticksOnly, Mark mark) const
 {
-    const long long span = (long long)FMax - FMin;
-    const long long step = std::llabs((long long)FStep);
-    if (ticksOnly && step == 0)
+    if (ticksOnly && FStep == 0)
         return;
-    // The values with one percentage all land on the same place: only the
-    // last one drawn there shows.
-    const auto run = [&](long long lo, long long hi) {
-        if (lo > hi)
-            return;
-        long long i = hi;
-        if (ticksOnly) {
-            i = floorDiv(hi, step) * step;
-            if (i < lo)
-                return;
-        }
-        mark(int(i), scaleColor(int(i)));
-    };
-    if (span <= 0) {
-        run(FMin, FMin);
-        return;
-    }
-    const auto first = [&](long long k) { return FMin + (k * span + 99) / 100; };   // ceil(k * span / 100)
-    for (long long k = 0; k <= 100; ++k)
-        run(first(k), std::min<long long>(first(k + 1) - 1, FMax));
+    ForEachScalePercent(FMin, FMax, ticksOnly ? FStep : 0, [&](int v, int) { mark(v, scaleColor(v)); });
 }
 
 void TqPanelMeter::Paint(TCanvas &canvas)
