@@ -61,23 +61,7 @@ private:
     int FTwo[1001] = {};
 };
 
-template <class Widget, class Step>
-double rate(Widget &w, Step step)
-{
-    QImage target(w.size(), QImage::Format_RGB32);
-    int n = 0;
-    return ratePerSecond([&] {
-        step(n++);
-        w.render(&target);
-    });
-}
-
 int wave(int n) { return 50 + int(std::lround(40 * std::sin(n / 9.0))); }
-
-void row(const char *what, double ours, const char *qtName, double theirs)
-{
-    std::printf("%-30s %11.0f/s   %-22s %11.0f/s   %6.2fx\n", what, ours, qtName, theirs, ours / theirs);
-}
 
 } // namespace
 
@@ -91,31 +75,31 @@ int main(int argc, char **argv)
     scope.SetBounds(0, 0, 300, 150);
     scope.SetUse2(true);
     PlainScope plain;
-    const double ours = rate(scope, [&](int n) {
+    const double ours = renderRate(scope, [&](int n) {
         scope.SetIn1(wave(n));
         scope.SetIn2(100 - wave(n));
         scope.Push();
     });
-    const double theirs = rate(plain, [&](int n) { plain.push(wave(n), 100 - wave(n)); });
+    const double theirs = renderRate(plain, [&](int n) { plain.push(wave(n), 100 - wave(n)); });
 
     TqPanelMeter meter;
     QDial dial;
     dial.resize(meter.size());
     dial.setNotchesVisible(true);
-    const double meterRate = rate(meter, [&](int n) { meter.SetValue(n % 101); });
-    const double dialRate = rate(dial, [&](int n) { dial.setValue(n % 100); });
+    const double meterRate = renderRate(meter, [&](int n) { meter.SetValue(n % 101); });
+    const double dialRate = renderRate(dial, [&](int n) { dial.setValue(n % 100); });
 
     TqGauge gauge;
     gauge.SetCaption(QStringLiteral("%d%%"));
     QProgressBar bar;
     bar.resize(gauge.size());
-    const double gaugeRate = rate(gauge, [&](int n) { gauge.SetValue(n % 101); });
-    const double barRate = rate(bar, [&](int n) { bar.setValue(n % 101); });
+    const double gaugeRate = renderRate(gauge, [&](int n) { gauge.SetValue(n % 101); });
+    const double barRate = renderRate(bar, [&](int n) { bar.setValue(n % 101); });
 
-    std::printf("%-30s %13s   %-22s %13s   %7s\n", "repaints", "ours", "Qt", "Qt", "ratio");
-    row("TqScope 300x150, push", ours, "QPainter polylines", theirs);
-    row("TqPanelMeter 105x97", meterRate, "QDial", dialRate);
-    row("TqGauge 75x30 with caption", gaugeRate, "QProgressBar", barRate);
+    ratioHeader("repaints");
+    ratioRow("TqScope 300x150, push", ours, "QPainter polylines", theirs);
+    ratioRow("TqPanelMeter 105x97", meterRate, "QDial", dialRate);
+    ratioRow("TqGauge 75x30 with caption", gaugeRate, "QProgressBar", barRate);
     std::printf("(ratio above 1: faster than the Qt widget in the same area)\n");
     return 0;
 }

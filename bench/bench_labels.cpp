@@ -10,17 +10,6 @@
 
 namespace {
 
-template <class Widget, class Change>
-double repaints(Widget &w, Change change)
-{
-    QImage target(w.size(), QImage::Format_RGB32);
-    int n = 0;
-    return ratePerSecond([&] {
-        change(n++);
-        w.render(&target);
-    });
-}
-
 QString text(int n) { return QString::number(1000000 + n * 7).rightJustified(8) + QStringLiteral(".25"); }
 
 } // namespace
@@ -38,12 +27,12 @@ int main(int argc, char **argv)
     QLCDNumber lcd(11);
     lcd.setSegmentStyle(QLCDNumber::Filled);
 
-    const double seg = repaints(segments, [&](int n) { segments.SetCaption(text(n)); });
+    const double seg = renderRate(segments, [&](int n) { segments.SetCaption(text(n)); });
     lcd.resize(segments.size());
-    const double lcdSeg = repaints(lcd, [&](int n) { lcd.display(text(n)); });
-    const double dot = repaints(dots, [&](int n) { dots.SetCaption(text(n)); });
+    const double lcdSeg = renderRate(lcd, [&](int n) { lcd.display(text(n)); });
+    const double dot = renderRate(dots, [&](int n) { dots.SetCaption(text(n)); });
     lcd.resize(dots.size());
-    const double lcdDot = repaints(lcd, [&](int n) { lcd.display(text(n)); });
+    const double lcdDot = renderRate(lcd, [&](int n) { lcd.display(text(n)); });
 
     std::printf("%-34s %12s %14s %8s\n", "11 cells, Size 2", "repaints/s", "QLCDNumber/s", "ratio");
     std::printf("%-34s %12.0f %14.0f %7.2fx\n", "TqSegmentLabel (418x58)", seg, lcdSeg, seg / lcdSeg);

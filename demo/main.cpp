@@ -30,7 +30,8 @@ int main(int argc, char **argv)
     layout->addWidget(displaysSection(&window), 0, 0);
     layout->addWidget(servicesSection(&window), 1, 0);
     layout->addWidget(instrumentsSection(&window), 0, 1, 2, 1);
-    layout->setRowStretch(2, 1);
+    layout->addWidget(controlsSection(&window), 2, 0, 1, 2);
+    layout->setRowStretch(3, 1);
     window.show();
 
     if (parser.isSet(screenshot)) {

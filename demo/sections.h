@@ -5,4 +5,5 @@
 
 QGroupBox *displaysSection(QWidget *parent);
 QGroupBox *instrumentsSection(QWidget *parent);
+QGroupBox *controlsSection(QWidget *parent);
 QGroupBox *servicesSection(QWidget *parent);

@@ -1,6 +1,7 @@
 // The needle meter: scale geometry, the picture of the three looks at the
 // points the geometry fixes, the value rules and the alert events.
 #include "instruments/qpanel.h"
+#include "testutil.h"
 
 #include <QtTest>
 
@@ -8,15 +9,11 @@ namespace {
 
 QRgb rgb(TColor c) { return ColorToQRgb(c); }
 
-// The meter's events as they come, by name.
-QStringList *record(TqPanelMeter &m)
+void watch(EventLog &log, TqPanelMeter &m)
 {
-    auto *log = new QStringList;
-    QObject::connect(&m, &TqPanelMeter::OnAlert, [log] { *log << "alert"; });
-    QObject::connect(&m, &TqPanelMeter::OnNotAlert, [log] { *log << "notalert"; });
-    QObject::connect(&m, &TqPanelMeter::OnChange, [log] { *log << "change"; });
-    QObject::connect(&m, &QObject::destroyed, [log] { delete log; });
-    return log;
+    log.watch(&m, &TqPanelMeter::OnAlert, "alert");
+    log.watch(&m, &TqPanelMeter::OnNotAlert, "notalert");
+    log.watch(&m, &TqPanelMeter::OnChange, "change");
 }
 
 } // namespace
@@ -81,16 +78,17 @@ void tst_QPanelMeter::roundLookPicture()
 void tst_QPanelMeter::alertEventsOncePerCrossing()
 {
     TqPanelMeter m;
-    QStringList *log = record(m);
+    EventLog log;
+    watch(log, m);
     m.SetValue(80);
     m.SetValue(90);
     m.SetValue(10);
     m.SetValue(10);   // no change, still an OnChange
-    QCOMPARE(*log, (QStringList{"alert", "change", "change", "notalert", "change", "change"}));
-    log->clear();
+    QCOMPARE(log.names, (QStringList{"alert", "change", "change", "notalert", "change", "change"}));
+    log.names.clear();
     m.SetUseAlert(false);
     m.SetValue(95);
-    QCOMPARE(*log, QStringList{"change"});
+    QCOMPARE(log.names, QStringList{"change"});
 }
 
 void tst_QPanelMeter::rangeRules()

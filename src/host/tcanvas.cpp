@@ -212,6 +212,8 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
         return;
     const int w = FImage->width(), h = FImage->height();
     const bool clipped = !FClip.isEmpty();
+    uchar *const bits = FImage->bits();   // detached once, not per row
+    const qsizetype stride = FImage->bytesPerLine();
     // Hatch gaps stay untouched only where the pattern takes part.
     const bool gaps = usesPattern(rop);
     if (!clipped && rop == 0xF0 && !source.hatch && !source.bitmap) {   // plain copy: the common case
@@ -220,7 +222,7 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
             if (s.y < 0 || s.y >= h)
                 continue;
             const int x0 = std::max(s.x0, 0), x1 = std::min(s.x1, w - 1);
-            auto *row = reinterpret_cast<QRgb *>(FImage->scanLine(s.y));
+            auto *row = reinterpret_cast<QRgb *>(bits + s.y * stride);
             for (int x = x0; x <= x1; ++x)
                 row[x] = colour;
         }
@@ -229,7 +231,7 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
     for (const Span &s : spans) {
         if (s.y < 0 || s.y >= h)
             continue;
-        auto *row = reinterpret_cast<QRgb *>(FImage->scanLine(s.y));
+        auto *row = reinterpret_cast<QRgb *>(bits + s.y * stride);
         const auto fill = [&](int x0, int x1) {
             x0 = std::max(x0, 0);
             x1 = std::min(x1, w - 1);
@@ -330,9 +332,11 @@ QRegion TCanvas::wideOutline(const Raster::Points &points, bool close) const
 
 // A one-pixel pen: each segment from its start up to (not including) its
 // end; dashes run on along the whole path from where the call began.
-void TCanvas::thinLines(const Raster::Points &pts, bool close)
+void TCanvas::thinLines(const Raster::Points &pts, bool close) { thinLines(pts.data(), pts.size(), close); }
+
+void TCanvas::thinLines(const TPoint *pts, size_t n, bool close)
 {
-    if (Pen.Style() == psClear || pts.size() < 2)
+    if (Pen.Style() == psClear || n < 2)
         return;
     const std::vector<int> &pattern = dashPattern(Pen.Style());
     Spans &spans = FScratch;
@@ -343,7 +347,7 @@ void TCanvas::thinLines(const Raster::Points &pts, bool close)
         else
             spans.push_back({y, x, x});
     };
-    const size_t n = pts.size(), segments = close ? n : n - 1;
+    const size_t segments = close ? n : n - 1;
     if (pattern.empty()) {
         const TRect clip = ClipRect();
         for (size_t i = 0; i < segments; ++i)
@@ -391,7 +395,13 @@ void TCanvas::strokeOpen(const Raster::Points &pts)
 
 void TCanvas::LineTo(int x, int y)
 {
-    Polyline({FPenPos, {x, y}});
+    const TPoint segment[] = {FPenPos, {x, y}};
+    if (!widePen() && Pen.Style() == psSolid) {   // the common case, without a path to build
+        FDashPhase = 0;
+        thinLines(segment, 2, false);
+    } else {
+        Polyline(segment, 2);
+    }
     FPenPos = {x, y};
 }
 
@@ -575,6 +585,18 @@ void TCanvas::CopyRect(const TRect &dest, const QImage &source, const TRect &src
     const int dx0 = std::min(dest.Left, dest.Right), dy0 = std::min(dest.Top, dest.Bottom);
     const int sx0 = std::min(src.Left, src.Right), sy0 = std::min(src.Top, src.Bottom);
     const quint8 rop = quint8(CopyMode >> 16);
+    if (rop == 0xCC && dw == sw && dh == sh && dw > 0 && dh > 0 && FClip.isEmpty()) {
+        // A plain copy at the same size: row by row.
+        const int x0 = std::max({0, dx0, dx0 - sx0}), x1 = std::min({FImage->width(), dx0 + dw, dx0 - sx0 + rgb.width()});
+        const int y0 = std::max({0, dy0, dy0 - sy0}), y1 = std::min({FImage->height(), dy0 + dh, dy0 - sy0 + rgb.height()});
+        for (int y = y0; y < y1; ++y) {
+            const auto *from = reinterpret_cast<const QRgb *>(rgb.constScanLine(y - dy0 + sy0)) + (x0 - dx0 + sx0);
+            auto *row = reinterpret_cast<QRgb *>(FImage->scanLine(y)) + x0;
+            for (int x = x0; x < x1; ++x)
+                *row++ = 0xFF000000u | (*from++ & kRgbMask);
+        }
+        return;
+    }
     // Only operations whose result depends on the pattern read the brush.
     const bool usesPattern = ((rop >> 4) & 0x0F) != (rop & 0x0F);
     const Source pattern = Source::brush(Brush);
@@ -618,6 +640,22 @@ void TCanvas::CopyRect(const TRect &dest, const QImage &source, const TRect &src
                 pattern.at(x, y, p);
             row[x] = 0xFF000000u | rop3(rop, p, s, row[x] & kRgbMask);
         }
+    }
+}
+
+void TCanvas::CopySpans(const Spans &spans, const QImage &source)
+{
+    if (!FImage || source.isNull())
+        return;
+    const int w = std::min(FImage->width(), source.width()), h = std::min(FImage->height(), source.height());
+    for (const Span &s : spans) {
+        if (s.y < 0 || s.y >= h)
+            continue;
+        const int x0 = std::max(s.x0, 0), x1 = std::min(s.x1, w - 1);
+        const auto *from = reinterpret_cast<const QRgb *>(source.constScanLine(s.y));
+        auto *row = reinterpret_cast<QRgb *>(FImage->scanLine(s.y));
+        for (int x = x0; x <= x1; ++x)
+            row[x] = 0xFF000000u | (from[x] & kRgbMask);
     }
 }
 

@@ -177,6 +177,9 @@ public:
     void CopyRect(const TRect &dest, const TCanvas &source, const TRect &src);
     void CopyRect(const TRect &dest, const QImage &source, const TRect &src);
     void Draw(int x, int y, const QImage &image);
+    // Copies the pixels of `spans` from `source` at the same places: how a
+    // control lays a picture made earlier over part of its drawing.
+    void CopySpans(const Raster::Spans &spans, const QImage &source);
     void StretchDraw(const TRect &dest, const QImage &image);
 
     TColor Pixels(int x, int y) const;
@@ -199,6 +202,7 @@ private:
     bool penRect(int x1, int y1, int x2, int y2, TRect &r) const;
     QRegion wideOutline(const Raster::Points &points, bool close) const;
     void thinLines(const Raster::Points &points, bool close);
+    void thinLines(const TPoint *points, size_t count, bool close);
     void strokeOpen(const Raster::Points &points);
     void fillAndStroke(const Raster::Points &outline, bool close, const Raster::Spans &inside);
     Raster::Points arcPoints(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4, TRect &r) const;

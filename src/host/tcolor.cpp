@@ -1,15 +1,17 @@
 #include "tcolor.h"
 
+#include <QPointer>
+#include <QThread>
+
+#include <array>
+
 #include <QGuiApplication>
 #include <QPalette>
 
 namespace {
 
-QColor systemColor(int index)
+QColor systemColorOf(const QPalette &pal, int index)
 {
-    const QPalette pal = qobject_cast<QGuiApplication *>(QCoreApplication::instance())
-                             ? QGuiApplication::palette()
-                             : QPalette(QColor(0xF0, 0xF0, 0xF0));
     using R = QPalette::ColorRole;
     const auto active = [&](R role) { return pal.color(QPalette::Active, role); };
     const auto inactive = [&](R role) { return pal.color(QPalette::Inactive, role); };
@@ -41,6 +43,54 @@ QColor systemColor(int index)
     case 24: return active(R::ToolTipBase);
     default: return active(R::Window);
     }
+}
+
+// The system colours of the application's palette, looked up once per
+// palette (controls ask for them on every paint). A watcher on the
+// application drops the table when the application's palette changes.
+class SystemColorTable : public QObject
+{
+public:
+    static constexpr int kCount = 32;
+
+    static TColor at(int index)
+    {
+        static QPointer<SystemColorTable> table;
+        if (!table) {
+            table = new SystemColorTable;
+            table->setParent(QCoreApplication::instance());
+            QCoreApplication::instance()->installEventFilter(table);
+        }
+        if (!table->FValid) {
+            const QPalette pal = QGuiApplication::palette();
+            for (int i = 0; i < kCount; ++i)
+                table->FColors[size_t(i)] = QColorToColor(systemColorOf(pal, i));
+            table->FValid = true;
+        }
+        return table->FColors[size_t(index)];
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance())
+            FValid = false;
+        return false;
+    }
+
+private:
+    std::array<TColor, kCount> FColors{};
+    bool FValid = false;
+};
+
+TColor systemColor(int index)
+{
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return QColorToColor(systemColorOf(QPalette(QColor(0xF0, 0xF0, 0xF0)), index));
+    // Off the GUI thread, or an index beyond the table: straight from the palette.
+    if (index < 0 || index >= SystemColorTable::kCount || QThread::currentThread() != qApp->thread())
+        return QColorToColor(systemColorOf(QGuiApplication::palette(), index));
+    return SystemColorTable::at(index);
 }
 
 struct NamedColor
@@ -146,7 +196,7 @@ TColor FormColorToColor(const QColor &color)
 TColor ColorToRGB(TColor color)
 {
     if (IsSystemColor(color))
-        return QColorToColor(systemColor(int(color & 0xFF)));
+        return systemColor(int(color & 0xFF));
     return color & 0x00FFFFFFu;
 }
 

@@ -79,6 +79,8 @@ TqKnob::TqKnob(QWidget *parent) : TCustomControl(parent)
     SetColor(clWindow);
     SetParentColor(true);
     SetBounds(x(), y(), 57, 57);
+    // Painting covers every pixel: nothing beneath needs drawing first.
+    SetControlStyle(ControlStyle() | csOpaque);
 }
 
 std::array<TColor, 3> TqKnob::Shades(KnobColorType color)
@@ -221,9 +223,11 @@ void TqKnob::SetSteel(bool steel)
 
 int TqKnob::Where(int X, int Y) { return KnobWhere(width(), X, Y, FMin, FMax); }
 
-void TqKnob::Paint(TCanvas &canvas)
+// The picture without pointers: background, ticks, the clearing ring and
+// the outer disc.
+void TqKnob::paintBase(TCanvas &canvas, int parity)
 {
-    const int W = width(), c = W / 2;
+    const int W = width();
     const TRect d = KnobDisc(W, 1);
     const auto fill = [&](auto draw) {   // in Color, or in the steel texture
         canvas.Brush.SetColor(Color());
@@ -234,16 +238,59 @@ void TqKnob::Paint(TCanvas &canvas)
     };
     fill([&] { canvas.FillRect(Rect(0, 0, W, height())); });
     if (FTicks)
-        DrawTick(canvas, c);
+        DrawTick(canvas, W / 2);
     // The clearing ring hides the inner part of the tick lines.
     canvas.Pen.SetColor(clBlack);
     canvas.Pen.SetStyle(psClear);
     fill([&] { canvas.Ellipse(d.Left - 3, d.Top - 3, d.Right + 3, d.Bottom + 3); });
     canvas.Pen.SetStyle(psSolid);
-    PaintDisc(canvas, d, W / 22, FValue, KnobPointerLength(W, 1, FPointWidth));
+    PaintDiscBody(canvas, d, W / 22, parity);
+}
+
+const QImage &TqKnob::basePicture(int parity)
+{
+    const TPictureKey key{width(), FStep, FMin, FMax, Discs(), ColorToRGB(Color()), ColorToRGB(FTickColor),
+                          FSteel, FTicks, FHideReflex, FShades};
+    if (!(key == FPictureKey)) {
+        FPictureKey = key;
+        FBase = {};
+        for (auto &layers : FInnerDiscs)
+            for (TLayer &l : layers)
+                l.Clear();
+    }
+    QImage &base = FBase[size_t(parity)];
+    if (base.isNull()) {
+        TBitmap picture(width(), height());
+        paintBase(picture.Canvas(), parity);
+        base = picture.Image();
+    }
+    return base;
+}
+
+const TLayer &TqKnob::discLayer(int disc, int parity)
+{
+    TLayer &layer = FInnerDiscs[size_t(disc - 2)][size_t(parity)];
+    if (layer.IsEmpty()) {
+        const TRect dn = KnobDisc(width(), disc);
+        layer.Capture(width(), height(), [&](TCanvas &c) {
+            PaintDiscBody(c, dn, dn.Width() / (disc == 2 ? 20 : 19), parity);
+        });
+    }
+    return layer;
+}
+
+// Each paint lays the kept still parts down and draws the pointers over
+// them: disc by disc, each inner disc covering the middle of the pointers
+// before it.
+void TqKnob::Paint(TCanvas &canvas)
+{
+    const int W = width();
+    canvas.CopyRect(Rect(0, 0, W, height()), basePicture(FValue & 1), Rect(0, 0, W, height()));
+    PaintPointer(canvas, FValue, KnobPointerLength(W, 1, FPointWidth));
     for (int n = 2; n <= Discs(); ++n) {
-        const TRect dn = KnobDisc(W, n);
-        PaintDisc(canvas, dn, dn.Width() / (n == 2 ? 20 : 19), DiscValue(n), KnobPointerLength(W, n, FPointWidth));
+        const int value = DiscValue(n);
+        discLayer(n, value & 1).DrawOn(canvas);
+        PaintPointer(canvas, value, KnobPointerLength(W, n, FPointWidth));
     }
     canvas.Pen.SetWidth(1);
     canvas.Brush.SetColor(Color());
@@ -256,6 +303,12 @@ void TqKnob::Paint(TCanvas &canvas)
 
 void TqKnob::PaintDisc(TCanvas &canvas, const TRect &disc, int depth, int value, int pointerLength)
 {
+    PaintDiscBody(canvas, disc, depth, value & 1);
+    PaintPointer(canvas, value, pointerLength);
+}
+
+void TqKnob::PaintDiscBody(TCanvas &canvas, const TRect &disc, int depth, int parity)
+{
     canvas.Pen.SetStyle(psSolid);
     canvas.Brush.SetStyle(bsSolid);
     canvas.Brush.SetColor(FShades[1]);
@@ -264,10 +317,14 @@ void TqKnob::PaintDisc(TCanvas &canvas, const TRect &disc, int depth, int value,
         canvas.Ellipse(disc.Left + i, disc.Top + i, disc.Right + i, disc.Bottom + i);
     canvas.Ellipse(disc);
     if (!FHideReflex)
-        DrawReflex(canvas, disc.Width(), disc, value & 1);
+        DrawReflex(canvas, disc.Width(), disc, parity);
     canvas.Pen.SetColor(clBlack);
     canvas.Brush.SetStyle(bsClear);
     canvas.Ellipse(disc);
+}
+
+void TqKnob::PaintPointer(TCanvas &canvas, int value, int pointerLength)
+{
     const int c = width() / 2;
     const TPoint end = KnobRayEnd(c, pointerLength, KnobPointerAngle(value, FMin, FMax));
     canvas.Pen.SetColor(FPointColor);

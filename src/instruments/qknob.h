@@ -6,6 +6,7 @@
 // logic here serves all three.
 
 #include "host/tcontrol.h"
+#include "host/tlayer.h"
 #include "host/tregion.h"
 
 #include <array>
@@ -127,6 +128,10 @@ protected:
     // One disc: the body with its depth, the reflexes, the outline and the
     // pointer. `depth` offset outlines give it its edge toward the lower right.
     void PaintDisc(TCanvas &canvas, const TRect &disc, int depth, int value, int pointerLength);
+    // The same in two steps: the disc without its pointer (the reflexes
+    // follow the value's parity), then the pointer alone.
+    void PaintDiscBody(TCanvas &canvas, const TRect &disc, int depth, int parity);
+    void PaintPointer(TCanvas &canvas, int value, int pointerLength);
 
     // The discs: how many, their values, the setter of each, which one the
     // modifier keys pick, and the depth divisor of the inner ones.
@@ -140,6 +145,26 @@ protected:
                     const std::function<void()> &atMax);
 
 private:
+    // What the still parts of the picture depend on; when it changes, the
+    // kept pictures are made again.
+    struct TPictureKey
+    {
+        int width = -1, step = 0, min = 0, max = 0, discs = 0;
+        TColor color = 0, tickColor = 0;
+        bool steel = false, ticks = false, hideReflex = false;
+        std::array<TColor, 3> shades{};
+        bool operator==(const TPictureKey &o) const
+        {
+            return width == o.width && step == o.step && min == o.min && max == o.max && discs == o.discs
+                && color == o.color && tickColor == o.tickColor && steel == o.steel && ticks == o.ticks
+                && hideReflex == o.hideReflex && shades == o.shades;
+        }
+    };
+    // Background, ticks, ring and outer disc, by the value's parity; and
+    // the inner discs as layers, by their values' parity.
+    const QImage &basePicture(int parity);
+    const TLayer &discLayer(int disc, int parity);
+    void paintBase(TCanvas &canvas, int parity);
     void buildRegions();
     // The first disc being dragged follows the point.
     void moveDragged(int X, int Y);
@@ -158,6 +183,9 @@ private:
     bool FSteel = false;
     std::array<TRegion, 3> FRegions;
     std::array<bool, 3> FDragging{};
+    TPictureKey FPictureKey;
+    std::array<QImage, 2> FBase;
+    std::array<std::array<TLayer, 2>, 2> FInnerDiscs;   // discs 2 and 3
 };
 
 using KnobColorType = TqKnob::KnobColorType;

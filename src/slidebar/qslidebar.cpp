@@ -66,6 +66,7 @@ TqSlideBar::TqSlideBar(QWidget *parent) : TCustomControl(parent)
 {
     TCustomControl::SetColor(clBtnFace);
     SetBounds(x(), y(), 100, 20);
+    SetControlStyle(ControlStyle() | csOpaque);   // painting covers every pixel
     SetThumbStyle(tsVertHigh);
 }
 
@@ -184,7 +185,16 @@ void TqSlideBar::WhereIsBar() { FThumbRect = Geometry().Thumb(FValue, FMin, FMax
 void TqSlideBar::SetTLColor(TCanvas &canvas) { canvas.Pen.SetColor(FStyle == bsRaised ? clBtnHighlight : clBtnShadow); }
 void TqSlideBar::SetBRColor(TCanvas &canvas) { canvas.Pen.SetColor(FStyle == bsLowered ? clBtnHighlight : clBtnShadow); }
 
-void TqSlideBar::Paint(TCanvas &canvas)
+QByteArray TqSlideBar::trackKey() const
+{
+    const qint64 values[] = {width(), height(), FThumb.width(), FThumb.height(), hasFocus(), FSteel,
+                             ColorToRGB(ParentBrushColor()), ColorToRGB(FFocusColor), ColorToRGB(FNonFocusColor),
+                             ColorToRGB(clBtnHighlight), ColorToRGB(clBtnShadow), FStyle, FThickness, FTicks,
+                             FTickWhere, FTickSize, FTickSpace, FStepPerTick, FMin, FMax};
+    return QByteArray(reinterpret_cast<const char *>(values), sizeof values);
+}
+
+void TqSlideBar::paintTrack(TCanvas &canvas)
 {
     const int W = width(), H = height();
     if (FSteel) {
@@ -212,17 +222,31 @@ void TqSlideBar::Paint(TCanvas &canvas)
     canvas.Pen.SetStyle(psSolid);
     if (FTicks)
         paintTicks(canvas, g);
+}
+
+void TqSlideBar::Paint(TCanvas &canvas)
+{
+    const TRect all = Rect(0, 0, width(), height());
+    if (FTicks && FTickStyle == tsOwnerDraw) {
+        paintTrack(canvas);
+    } else {
+        const QByteArray key = trackKey();
+        if (key != FTrackKey || FTrack.isNull()) {
+            TBitmap track(width(), height());
+            paintTrack(track.Canvas());
+            FTrack = track.Image();
+            FTrackKey = key;
+        }
+        canvas.CopyRect(all, FTrack, all);
+    }
     // The thumb: the background ANDed with the mask, the image ORed over it.
     WhereIsBar();
-    TBitmap composed(FThumbRect.Width(), FThumbRect.Height());
-    const TRect all = Rect(0, 0, FThumbRect.Width(), FThumbRect.Height());
-    composed.Canvas().CopyRect(all, canvas, FThumbRect);
-    composed.Canvas().CopyMode = cmSrcAnd;
-    composed.Canvas().CopyRect(all, FThumbMask, all);
-    composed.Canvas().CopyMode = cmSrcPaint;
-    composed.Canvas().CopyRect(all, FThumb, all);
+    const TRect thumb = Rect(0, 0, FThumbRect.Width(), FThumbRect.Height());
+    canvas.CopyMode = cmSrcAnd;
+    canvas.CopyRect(FThumbRect, FThumbMask, thumb);
+    canvas.CopyMode = cmSrcPaint;
+    canvas.CopyRect(FThumbRect, FThumb, thumb);
     canvas.CopyMode = cmSrcCopy;
-    canvas.CopyRect(FThumbRect, composed.Image(), all);
 }
 
 // One tick across the groove at `along`: two lines side by side, lit and

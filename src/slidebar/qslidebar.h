@@ -154,6 +154,11 @@ protected:
     void DoExit() override;
 
 private:
+    // Background, groove and ticks: everything but the thumb.
+    void paintTrack(TCanvas &canvas);
+    // The track picture is kept while nothing it shows changes (owner-drawn
+    // ticks are the application's, drawn every time).
+    QByteArray trackKey() const;
     void paintTicks(TCanvas &canvas, const TRect &groove);
     void tick(TCanvas &canvas, int along, int from, int length, bool left, int number);
 
@@ -181,4 +186,6 @@ private:
     TRect FThumbRect;
     bool FDragging = false;
     int FDragAnchor = 0;
+    QByteArray FTrackKey;
+    QImage FTrack;
 };

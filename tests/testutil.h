@@ -1,0 +1,46 @@
+#pragma once
+// Small helpers the component tests share.
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QStringList>
+#include <QWidget>
+#include <QtTest>
+
+// The events of components as they come, each by a short name, in order:
+//     EventLog log;   // declared before what it watches
+//     log.watch(&knob, &TqKnob::OnChange, "change");
+struct EventLog
+{
+    QStringList names;
+
+    template <class Object, class Signal>
+    void watch(Object *object, Signal signal, const char *name)
+    {
+        QObject::connect(object, signal, object, [this, name] { names << QString::fromLatin1(name); });
+    }
+};
+
+// A control on a shown form, focused, as a user meets it.
+template <class Control>
+struct ShownOnForm
+{
+    QWidget form;
+    Control *control = new Control(&form);
+    ShownOnForm()
+    {
+        form.resize(200, 200);
+        form.show();
+        if (!QTest::qWaitForWindowExposed(&form))
+            qWarning("the form was not shown");
+        control->setFocus();
+    }
+};
+
+// A mouse move with the left button held, as a drag delivers it.
+inline void dragTo(QWidget *w, QPoint p)
+{
+    QMouseEvent move(QEvent::MouseMove, QPointF(p), w->mapToGlobal(QPointF(p)), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(w, &move);
+}
