@@ -167,6 +167,11 @@ void tst_QKnob::keysStepTheValueWithBoundEvents()
     log.names.clear();
     QTest::keyClick(f.knob, Qt::Key_Left);   // at Min: nothing
     QCOMPARE(log.names.size(), 0);
+    // The focus shows as a dotted frame round the control.
+    QVERIFY(f.knob->hasFocus());
+    const QRgb focused = f.knob->RenderImage().pixel(0, 0);
+    f.form.setFocus();
+    QVERIFY(f.knob->RenderImage().pixel(0, 0) != focused);
     // A value set beyond Max is clamped without the bound's event.
     f.knob->SetKnobValue(150);
     QCOMPARE(f.knob->Value(), 100);

@@ -144,6 +144,10 @@ void tst_QSlideBar::keysMoveTheValue()
     QTest::keyClick(f.bar, Qt::Key_Left);     // at Min: nothing
     QCOMPARE(log.names, (QStringList{"change", "change", "change", "change", "change", "max", "change", "min"}));
     QCOMPARE(keys.count(), 8);   // OnKeyDown after each
+    // The groove takes the focus colour while the bar has the focus.
+    QCOMPARE(f.bar->RenderImage().pixel(60, 9), rgb(clActiveCaption));
+    f.form.setFocus();
+    QCOMPARE(f.bar->RenderImage().pixel(60, 9), rgb(clBtnFace));
 }
 
 void tst_QSlideBar::outOfRangeValuesAndRangeRules()
