@@ -4,7 +4,9 @@
 // read back by QUiLoader; the component editor's verbs and the help.
 #include "design/qcinit01.h"
 #include "design/qs_vcl32.h"
+#include "buttons/qanimate.h"
 #include "design/qgaugeeditor.h"
+#include "design/qshapebtneditor.h"
 #include "displays/qseg.h"
 #include "indicators/qgauge.h"
 #include "services/mystd.h"
@@ -134,6 +136,7 @@ private slots:
     void systemColoursAreChosenInTheColoursDialog();
     void calculatorResultsAreReadOnly();
     void gaugeCaptionStyleFromItsEditor();
+    void shapeFromTheShapeEditor();
     void verbsOpenTheHelpAtTheContextNumber();
     void helpPagesAreBuilt();
     void uicCompiledFormMatchesTheLoadedOne();
@@ -354,6 +357,25 @@ void tst_Designer::gaugeCaptionStyleFromItsEditor()
     QVERIFY(d->form->contents().contains(QStringLiteral("gaTotPct")));   // stored with the form
     d->form->commandHistory()->undo();
     QCOMPARE(gauge->CaptionStyle(), TqGauge::gaPctBar);
+}
+
+void tst_Designer::shapeFromTheShapeEditor()
+{
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqShapeBtn\" name=\"shape\"/></widget></ui>")));
+    auto *button = d->form->mainContainer()->findChild<TqShapeBtn *>("shape");
+    QAction *edit = d->extension<QDesignerTaskMenuExtension>(button)->preferredEditAction();
+    QVERIFY(edit);
+    edit->trigger();
+    auto *editor = button->window()->findChild<TqShapeBtnEditor *>();
+    QVERIFY(editor);
+    QCOMPARE(editor->Shape(), int(TqShapeBtn::sbRectangle));
+    editor->SetShape(TqShapeBtn::sbPlus);
+    editor->accept();
+    QCOMPARE(button->Shape(), TqShapeBtn::sbPlus);
+    QCOMPARE(button->GetAccelkey(), QChar(u'+'));
+    QVERIFY(d->form->contents().contains(QStringLiteral("sbPlus")));
 }
 
 void tst_Designer::calculatorResultsAreReadOnly()

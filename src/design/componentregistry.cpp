@@ -1,5 +1,6 @@
 #include "componentregistry.h"
 
+#include "buttons/qanimate.h"
 #include "displays/qseg.h"
 #include "host/tcontrol.h"
 #include "indicators/qgauge.h"
@@ -79,6 +80,25 @@ void poseScope(QWidget *w)
 
 void posePanelMeter(QWidget *w) { static_cast<TqPanelMeter *>(w)->SetValue(65); }
 
+template <class Button>
+void poseButton(QWidget *w)
+{
+    auto *b = static_cast<Button *>(w);
+    b->SetBounds(0, 0, 60, 30);
+    b->SetCaption(QStringLiteral("OK"));
+}
+
+void poseGradBtn(QWidget *w)
+{
+    poseButton<TqGradBtn>(w);
+    auto *b = static_cast<TqGradBtn *>(w);
+    b->SetColor(clNavy);
+    b->SetEndColor(clAqua);
+    b->SetFontColor(clWhite);
+}
+
+void poseShapeBtn(QWidget *w) { static_cast<TqShapeBtn *>(w)->SetShape(TqShapeBtn::sbUpTriangle); }
+
 void poseKnob(QWidget *w) { static_cast<TqKnob *>(w)->SetKnobValue(70); }
 
 void poseDblKnob(QWidget *w)
@@ -153,6 +173,17 @@ const std::vector<TComponentEntry> kComponents = {
      "A timer that sleeps in a worker thread of its own and raises OnTimer on the GUI "
      "thread. Invisible at run time.",
      make<TqcTimer>, nullptr, false},
+    {"TqShapeBtn", "buttons/qanimate.h", 2, 27, "Shape button",
+     "A push button shaped as a rectangle, a triangle, a plus, a minus, an ellipse or a shape "
+     "of the application's; a press outside the shape goes to what lies beneath.",
+     make<TqShapeBtn>, poseShapeBtn, true},
+    {"TqColorBtn", "buttons/qanimate.h", 2, 28, "Colour button",
+     "A push button in any face colour with a two-pixel bevel, the caption at nine places and "
+     "a flat mode; the form's default and cancel button, with a modal result.",
+     make<TqColorBtn>, poseButton<TqColorBtn>, true},
+    {"TqGradBtn", "buttons/qanimate.h", 2, 29, "Gradient button",
+     "The colour button with a face blended from Color to EndColor, in bands or rings.",
+     make<TqGradBtn>, poseGradBtn, true},
     {"TqKnob", "instruments/qpanel.h", 2, 34, "Rotary knob",
      "A shaded, round knob whose pointer shows a value; the value follows the mouse angle "
      "around the centre, or the keyboard.",
@@ -169,6 +200,10 @@ const std::vector<TComponentEntry> kComponents = {
      "A slider with tick marks and a thumb in one of sixteen shapes, horizontal or vertical "
      "by its shape, set by dragging, clicking beside the thumb or the keyboard.",
      make<TqSlideBar>, poseSlideBar, true},
+    {"TqNWColorBtn", "buttons/qanimate.h", 2, 38, "Colour button without a window",
+     "The colour button as a graphic control: no focus, but it can be transparent, "
+     "optionally lightened by a grey glass.",
+     make<TqNWColorBtn>, poseButton<TqNWColorBtn>, true},
 };
 
 } // namespace

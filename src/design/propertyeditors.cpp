@@ -1,6 +1,7 @@
 #include "propertyeditors.h"
 
 #include "qgaugeeditor.h"
+#include "qshapebtneditor.h"
 
 #include <QWidget>
 
@@ -13,7 +14,15 @@ QDialog *createGaugeEditor(QWidget *component, QWidget *parent)
 
 QVariant gaugeEditorValue(QDialog *dialog) { return static_cast<TqGaugeEditor *>(dialog)->CaptionStyle(); }
 
+QDialog *createShapeEditor(QWidget *component, QWidget *parent)
+{
+    return new TqShapeBtnEditor(component->property("Shape").toInt(), parent);
+}
+
+QVariant shapeEditorValue(QDialog *dialog) { return static_cast<TqShapeBtnEditor *>(dialog)->Shape(); }
+
 const std::vector<TPropertyEditorEntry> kEditors = {
+    {"TqShapeBtn", "Shape", "Shape...", createShapeEditor, shapeEditorValue},
     {"TqGauge", "CaptionStyle", "Caption Style...", createGaugeEditor, gaugeEditorValue},
 };
 

@@ -23,12 +23,15 @@ enum TPenMode {
     pmMergeNotPen, pmMaskNotPen, pmMerge, pmNotMerge, pmMask, pmNotMask, pmXor, pmNotXor
 };
 
-// Brush styles are stored with forms (a meter's housing pattern), so the
-// form loader and the designer know them by name.
+// Brush styles and blend directions are stored with forms, so the form
+// loader and the designer know them by name.
 namespace Graphics {
 Q_NAMESPACE
 enum TBrushStyle { bsSolid, bsClear, bsHorizontal, bsVertical, bsFDiagonal, bsBDiagonal, bsCross, bsDiagCross };
 Q_ENUM_NS(TBrushStyle)
+// The direction of a colour blend (see tblend.h).
+enum gradType { gHorz, gVert, gCenter };
+Q_ENUM_NS(gradType)
 } // namespace Graphics
 using namespace Graphics;
 

@@ -1,5 +1,6 @@
 #include "tcontrol.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <algorithm>
 #include <QDrag>
@@ -498,8 +499,35 @@ void TControl::leaveEvent(QEvent *event)
     MouseLeave();
 }
 
+bool TControl::passOn(QMouseEvent *event)
+{
+    if (!FPassedTo)
+        return false;
+    const QPointF at = FPassedTo->mapFromGlobal(event->globalPosition());
+    QMouseEvent copy(event->type(), at, event->scenePosition(), event->globalPosition(), event->button(),
+                     event->buttons(), event->modifiers());
+    QPointer<QWidget> target = FPassedTo;
+    if (event->type() == QEvent::MouseButtonRelease && event->buttons() == Qt::NoButton)
+        FPassedTo = nullptr;
+    QApplication::sendEvent(target, &copy);
+    return true;
+}
+
 void TControl::mousePressEvent(QMouseEvent *event)
 {
+    if (passOn(event))
+        return;
+    const QPoint at = event->position().toPoint();
+    if (!HitTest(at.x(), at.y()) && parentWidget()) {
+        // Not ours: the press and what follows it go to what lies beneath.
+        setAttribute(Qt::WA_TransparentForMouseEvents, true);
+        QWidget *parent = parentWidget();
+        QWidget *beneath = parent->childAt(parent->mapFrom(this, at));
+        setAttribute(Qt::WA_TransparentForMouseEvents, false);
+        FPassedTo = beneath ? beneath : parent;
+        passOn(event);
+        return;
+    }
     TMouseButton button;
     if (!toButton(event->button(), button))
         return;
@@ -515,6 +543,8 @@ void TControl::mousePressEvent(QMouseEvent *event)
 
 void TControl::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (passOn(event))
+        return;
     TMouseButton button;
     if (!toButton(event->button(), button))
         return;
@@ -530,6 +560,13 @@ void TControl::mouseReleaseEvent(QMouseEvent *event)
 
 void TControl::mouseDoubleClickEvent(QMouseEvent *event)
 {
+    if (passOn(event))
+        return;
+    const QPoint at = event->position().toPoint();
+    if (!HitTest(at.x(), at.y())) {
+        mousePressEvent(event);
+        return;
+    }
     TMouseButton button;
     if (!toButton(event->button(), button))
         return;
@@ -543,6 +580,8 @@ void TControl::mouseDoubleClickEvent(QMouseEvent *event)
 
 void TControl::mouseMoveEvent(QMouseEvent *event)
 {
+    if (passOn(event))
+        return;
     const QPoint p = event->position().toPoint();
     MouseMove(shiftState(event->modifiers(), event->buttons()), p.x(), p.y());
 }

@@ -39,6 +39,9 @@ Q_ENUM_NS(TAlign)
 // The bevels of a panel-like frame.
 enum TPanelBevel { bvNone, bvLowered, bvRaised, bvSpace };
 Q_ENUM_NS(TPanelBevel)
+// Horizontal placement of text.
+enum TAlignment { taLeftJustify, taRightJustify, taCenter };
+Q_ENUM_NS(TAlignment)
 } // namespace Controls
 using namespace Controls;
 using TControlStyle = quint32;
@@ -194,6 +197,10 @@ protected:
     virtual void MouseEnter();
     virtual void MouseLeave();
 
+    // Whether the point belongs to the control: a press where it does not
+    // goes, with the rest of that press, to whatever lies beneath.
+    virtual bool HitTest(int X, int Y) const { Q_UNUSED(X); Q_UNUSED(Y); return true; }
+
     // Draws the whole picture; called with the off-screen canvas. A control
     // that is not opaque finds on the canvas what lies beneath it.
     virtual void Paint(TCanvas &canvas) { Q_UNUSED(canvas); }
@@ -223,6 +230,8 @@ protected:
 
 private:
     bool acceptsDrag(QDropEvent *event, TDragState state);
+    // Hands a mouse event to the widget the press went through to.
+    bool passOn(QMouseEvent *event);
     void boundsChanged();
     void paintInto(QImage &image);
     void copyBeneath(QPainter &painter);
@@ -248,6 +257,7 @@ private:
     TAlign FAlign = alNone;
     TColor FFontColor = clWindowText;
     QPointer<QMenu> FPopupMenu;
+    QPointer<QWidget> FPassedTo;   // the widget beneath that has the current press
     TCanvas *FCanvas = nullptr;
     QImage FBuffer;
     QRect FBounds;
