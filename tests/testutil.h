@@ -8,7 +8,6 @@
 #include <QtTest>
 
 // The events of components as they come, each by a short name, in order:
-//     EventLog log;   // declared before what it watches
 //     log.watch(&knob, &TqKnob::OnChange, "change");
 struct EventLog
 {
@@ -17,8 +16,11 @@ struct EventLog
     template <class Object, class Signal>
     void watch(Object *object, Signal signal, const char *name)
     {
-        QObject::connect(object, signal, object, [this, name] { names << QString::fromLatin1(name); });
+        QObject::connect(object, signal, &FContext, [this, name] { names << QString::fromLatin1(name); });
     }
+
+private:
+    QObject FContext;   // goes with the log, and its connections with it
 };
 
 // A control on a shown form, focused, as a user meets it.

@@ -69,6 +69,7 @@ protected:
     void KeyDown(quint16 &Key, TShiftState Shift) override;
     void KeyUp(quint16 &Key, TShiftState Shift) override;
     bool DialogKey(QKeyEvent *event) override;
+    bool TakesAccelerator() const override { return TColorButton::TakesAccelerator() && focusPolicy() != Qt::NoFocus; }
 
 private:
     // Whether this is the button Enter clicks, now that `focused` has the focus.

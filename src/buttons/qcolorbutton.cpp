@@ -13,3 +13,14 @@ bool IsAccel(QChar key, const QString &caption)
     }
     return false;
 }
+
+QChar TypedChar(const QKeyEvent *event)
+{
+    const QString text = event->text();
+    if (text.size() == 1 && text[0].isPrint())
+        return text[0];
+    const int key = event->key();
+    if ((event->modifiers() & Qt::AltModifier) && key >= 0x20 && key < 0x7F)
+        return QChar(key);
+    return QChar();
+}

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QKeySequence>
 
 #include <type_traits>
 
@@ -23,6 +24,8 @@ using namespace Buttons;
 // True when `key` is the accelerator of `caption` (the character after a
 // single '&', in either case).
 bool IsAccel(QChar key, const QString &caption);
+// The character a key press types, also with Alt held (null for none).
+QChar TypedChar(const QKeyEvent *event);
 
 template <class Base>
 class TColorButton : public Base
@@ -63,6 +66,11 @@ public:
         if (FCaption == caption)
             return;
         FCaption = caption;
+        // Alt with the accelerator clicks it wherever the focus is.
+        if (FShortcut)
+            this->releaseShortcut(FShortcut);
+        const QKeySequence mnemonic = QKeySequence::mnemonic(caption);
+        FShortcut = mnemonic.isEmpty() ? 0 : this->grabShortcut(mnemonic, Qt::WindowShortcut);
         this->Invalidate();
     }
     TColor HighLightColor() const { return FHighLightColor; }
@@ -261,9 +269,8 @@ protected:
     // windowed one in DialogKey).
     virtual bool DialogKey(QKeyEvent *event)
     {
-        const QString text = event->text();
-        if (text.size() == 1 && text[0].isPrint() && this->isEnabled() && this->isVisible()
-            && IsAccel(text[0], FCaption)) {
+        const QChar key = TypedChar(event);
+        if (!key.isNull() && this->isEnabled() && this->isVisible() && IsAccel(key, FCaption)) {
             this->Click();
             return true;
         }
@@ -276,8 +283,15 @@ protected:
             return true;
         return Base::eventFilter(watched, event);
     }
+    // Whether the accelerator may click the button now.
+    virtual bool TakesAccelerator() const { return this->isEnabled() && !this->IsDesigning(); }
     bool event(QEvent *event) override
     {
+        if (event->type() == QEvent::Shortcut) {
+            if (TakesAccelerator())
+                this->Click();
+            return true;
+        }
         if (event->type() == QEvent::ParentChange && this->parentWidget())
             this->window()->installEventFilter(this);
         if (event->type() == QEvent::EnabledChange) {
@@ -301,4 +315,5 @@ private:
     bool FMouseIn = false;
     bool FPressed = false;
     bool FTracking = false;
+    int FShortcut = 0;
 };

@@ -92,7 +92,18 @@ QChar TqShapeBtn::GetAccelkey() const { return FAccel.size() < 2 ? QChar(u' ') :
 
 void TqShapeBtn::SetAccelKey(QChar key)
 {
-    FAccel = key == QChar(u' ') ? QString() : QStringLiteral("&") + key;
+    setAccel(key == QChar(u' ') ? QString() : QStringLiteral("&") + key);
+}
+
+// Alt with the key clicks the button wherever the focus is; the key alone
+// where the focused control leaves it unused.
+void TqShapeBtn::setAccel(const QString &accel)
+{
+    FAccel = accel;
+    if (FShortcut)
+        releaseShortcut(FShortcut);
+    FShortcut = accel.size() == 2 ? grabShortcut(QKeySequence(Qt::ALT | accel[1].toUpper().unicode()), Qt::WindowShortcut)
+                                  : 0;
 }
 
 void TqShapeBtn::SetShape(sbType shape)
@@ -100,7 +111,7 @@ void TqShapeBtn::SetShape(sbType shape)
     if (FShape == shape)
         return;
     FShape = shape;
-    FAccel = shape == sbPlus ? QStringLiteral("&+") : shape == sbMinus ? QStringLiteral("&-") : QString();
+    setAccel(shape == sbPlus ? QStringLiteral("&+") : shape == sbMinus ? QStringLiteral("&-") : QString());
     RgnFromShape();
     Invalidate();
 }
@@ -317,8 +328,8 @@ void TqShapeBtn::Click()
 bool TqShapeBtn::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == window() && event->type() == QEvent::KeyPress && !IsDesigning() && isEnabled() && isVisible()) {
-        const QString text = static_cast<QKeyEvent *>(event)->text();
-        if (text.size() == 1 && IsAccel(text[0], FAccel)) {
+        const QChar key = TypedChar(static_cast<QKeyEvent *>(event));
+        if (!key.isNull() && IsAccel(key, FAccel)) {
             TGraphicControl::Click();
             return true;
         }
@@ -328,6 +339,11 @@ bool TqShapeBtn::eventFilter(QObject *watched, QEvent *event)
 
 bool TqShapeBtn::event(QEvent *event)
 {
+    if (event->type() == QEvent::Shortcut) {
+        if (isEnabled() && !IsDesigning())
+            TGraphicControl::Click();
+        return true;
+    }
     if (event->type() == QEvent::ParentChange && parentWidget())
         window()->installEventFilter(this);
     return TGraphicControl::event(event);

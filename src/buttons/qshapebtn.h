@@ -85,6 +85,7 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    void setAccel(const QString &accel);
     void drawRectangle(TCanvas &c);
     void drawEllipse(TCanvas &c);
     void drawTriangle(TCanvas &c, int which);
@@ -102,6 +103,7 @@ private:
     QSize FRegionSize;
     bool FPressed = false;
     bool FTracking = false;
+    int FShortcut = 0;
 };
 
 using sbType = TqShapeBtn::sbType;

@@ -522,7 +522,7 @@ void TControl::mousePressEvent(QMouseEvent *event)
         // Not ours: the press and what follows it go to what lies beneath.
         setAttribute(Qt::WA_TransparentForMouseEvents, true);
         QWidget *parent = parentWidget();
-        QWidget *beneath = parent->childAt(parent->mapFrom(this, at));
+        QWidget *beneath = parent->childAt(mapTo(parent, at));
         setAttribute(Qt::WA_TransparentForMouseEvents, false);
         FPassedTo = beneath ? beneath : parent;
         passOn(event);
