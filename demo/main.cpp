@@ -31,7 +31,8 @@ int main(int argc, char **argv)
     layout->addWidget(servicesSection(&window), 1, 0);
     layout->addWidget(instrumentsSection(&window), 0, 1, 2, 1);
     layout->addWidget(controlsSection(&window), 2, 0, 1, 2);
-    layout->setRowStretch(3, 1);
+    layout->addWidget(buttonsSection(&window), 3, 0, 1, 2);
+    layout->setRowStretch(4, 1);
     window.show();
 
     if (parser.isSet(screenshot)) {

@@ -6,4 +6,5 @@
 QGroupBox *displaysSection(QWidget *parent);
 QGroupBox *instrumentsSection(QWidget *parent);
 QGroupBox *controlsSection(QWidget *parent);
+QGroupBox *buttonsSection(QWidget *parent);
 QGroupBox *servicesSection(QWidget *parent);

@@ -11,7 +11,10 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 
+#include <algorithm>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 namespace Buttons {
 Q_NAMESPACE
@@ -125,12 +128,51 @@ protected:
     virtual bool ShowsFocus() const { return false; }
     virtual void DoOnPaint() = 0;
 
+    // Whether the face and bevel may be kept from one paint to the next,
+    // and what they depend on beyond the state shared here.
+    virtual bool FaceKept() const { return true; }
+    virtual QByteArray FaceKey() const { return QByteArray(); }
+
     void Paint(TCanvas &canvas) override
     {
-        const int W = this->width(), H = this->height(), R = W - 1, B = H - 1;
+        const int W = this->width(), H = this->height();
         const bool enabled = this->isEnabled();
+        const bool bevel = !FFlat || (FMouseIn && enabled) || FPressed || FTracking || this->IsDesigning();
+        if (FaceKept()) {
+            // The face and bevel change with few things; the caption is
+            // drawn over a kept copy.
+            const qint64 values[] = {W, H, ColorToRGB(this->Color()), ColorToRGB(FHighLightColor),
+                                     ColorToRGB(FShadowColor), FPressed, bevel};
+            const QByteArray key = QByteArray(reinterpret_cast<const char *>(values), sizeof values) + FaceKey();
+            // The last few looks (raised, pressed, hot ...) are kept.
+            auto kept = std::find_if(FFaces.begin(), FFaces.end(), [&](const auto &f) { return f.first == key; });
+            if (kept == FFaces.end()) {
+                TBitmap face(W, H);
+                paintFaceAndBevel(face.Canvas(), bevel);
+                if (FFaces.size() == 4)
+                    FFaces.pop_back();
+                FFaces.insert(FFaces.begin(), {key, face.Image()});
+                kept = FFaces.begin();
+            }
+            canvas.CopyRect(this->ClientRect(), kept->second, this->ClientRect());
+        } else {
+            paintFaceAndBevel(canvas, bevel);
+        }
+        paintCaption(canvas, enabled);
+        if (ShowsFocus() && enabled) {
+            TRect focus = this->ClientRect();
+            InflateRect(focus, -3, -3);
+            canvas.DrawFocusRect(focus);
+        }
+        DoOnPaint();
+    }
+
+private:
+    void paintFaceAndBevel(TCanvas &canvas, bool bevel)
+    {
+        const int R = this->width() - 1, B = this->height() - 1;
         PaintFace(canvas);
-        if (!FFlat || (FMouseIn && enabled) || FPressed || FTracking || this->IsDesigning()) {
+        if (bevel) {
             canvas.Pen.SetColor(FShadowColor);
             canvas.Polyline({{0, B}, {0, 0}, {R, 0}});
             canvas.Polyline({{R - 1, 1}, {R - 1, B - 1}, {0, B - 1}});
@@ -139,7 +181,11 @@ protected:
             canvas.Pen.SetColor(FPressed ? FHighLightColor : TColor(clBlack));
             canvas.Polyline({{R, 0}, {R, B}, {0, B}});
         }
-        TRect r = Rect(5, 5, W - 5, H - 5);
+    }
+
+    void paintCaption(TCanvas &canvas, bool enabled)
+    {
+        TRect r = Rect(5, 5, this->width() - 5, this->height() - 5);
         canvas.Font = this->CanvasFont();
         canvas.Font.SetStyle(BoldCaption() ? fsBold : 0);
         if (enabled && FPressed)
@@ -157,12 +203,6 @@ protected:
             canvas.DrawText(FCaption, r, flags);
         }
         canvas.Brush.SetStyle(bsSolid);
-        if (ShowsFocus() && enabled) {
-            TRect focus = this->ClientRect();
-            InflateRect(focus, -3, -3);
-            canvas.DrawFocusRect(focus);
-        }
-        DoOnPaint();
     }
 
 public:
@@ -316,4 +356,5 @@ private:
     bool FPressed = false;
     bool FTracking = false;
     int FShortcut = 0;
+    std::vector<std::pair<QByteArray, QImage>> FFaces;
 };

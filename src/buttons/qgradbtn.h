@@ -38,6 +38,11 @@ protected:
         TqColorBtn::ColorChanged();
     }
     void PaintFace(TCanvas &canvas) override;
+    QByteArray FaceKey() const override
+    {
+        const qint64 values[] = {FFillType, FEndColor, FBands, Color()};
+        return QByteArray(reinterpret_cast<const char *>(values), sizeof values);
+    }
 
 private:
     gradType FFillType = gVert;

@@ -53,6 +53,8 @@ signals:
 protected:
     void DoOnPaint() override { emit OnPaint(this); }
     void PaintFace(TCanvas &canvas) override;
+    // What lies beneath changes without telling the button.
+    bool FaceKept() const override { return !FTransparent; }
     void Click() override;
     // A transparent button repaints at once on release, a solid one later.
     void AfterRelease() override;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstring>
 #include <cmath>
 
 using Raster::Span;
@@ -148,6 +149,8 @@ struct TCanvas::Source
 
 QFont TFont::ToQFont() const
 {
+    if (FMade)
+        return FQFont;
     QFont f(FName);
     f.setPixelSize(std::max(1, -Height()));
     f.setBold(FStyle & fsBold);
@@ -156,6 +159,8 @@ QFont TFont::ToQFont() const
     f.setStrikeOut(FStyle & fsStrikeOut);
     f.setStyleStrategy(QFont::NoAntialias);
     f.setHintingPreference(QFont::PreferFullHinting);
+    FQFont = f;
+    FMade = true;
     return f;
 }
 
@@ -589,9 +594,14 @@ void TCanvas::CopyRect(const TRect &dest, const QImage &source, const TRect &src
         // A plain copy at the same size: row by row.
         const int x0 = std::max({0, dx0, dx0 - sx0}), x1 = std::min({FImage->width(), dx0 + dw, dx0 - sx0 + rgb.width()});
         const int y0 = std::max({0, dy0, dy0 - sy0}), y1 = std::min({FImage->height(), dy0 + dh, dy0 - sy0 + rgb.height()});
+        const bool opaque = rgb.format() == QImage::Format_RGB32;   // already 0xFFrrggbb
         for (int y = y0; y < y1; ++y) {
             const auto *from = reinterpret_cast<const QRgb *>(rgb.constScanLine(y - dy0 + sy0)) + (x0 - dx0 + sx0);
             auto *row = reinterpret_cast<QRgb *>(FImage->scanLine(y)) + x0;
+            if (opaque && x1 > x0) {
+                std::memcpy(row, from, size_t(x1 - x0) * sizeof(QRgb));
+                continue;
+            }
             for (int x = x0; x < x1; ++x)
                 *row++ = 0xFF000000u | (*from++ & kRgbMask);
         }
@@ -764,6 +774,19 @@ int TCanvas::DrawText(const QString &text, TRect &r, unsigned flags)
     QString shown = text;
     if ((flags & DT_END_ELLIPSIS) && (flags & DT_SINGLELINE))
         shown = fm.elidedText(text, Qt::ElideRight, r.Width(), qt);
+    if (!(flags & DT_CALCRECT) && FImage && (Brush.Style() != bsSolid || !Brush.Bitmap().isNull())) {
+        // No background to fill first: lay the text out once, while drawing.
+        QPainter p(FImage);
+        QRegion clip = (flags & DT_NOCLIP) ? QRegion(FImage->rect()) : QRegion(ToQRect(r));
+        if (!FClip.isEmpty())
+            clip &= FClip;
+        p.setClipRegion(clip);
+        p.setFont(font);
+        p.setPen(ColorToQColor(Font.Color()));
+        QRect drawn;
+        p.drawText(ToQRect(r), qt, shown, &drawn);
+        return shown.isEmpty() ? 0 : drawn.height();
+    }
 
     const int wrapWidth = (flags & DT_WORDBREAK) ? std::max(r.Width(), 1) : 1 << 20;
     const QRect measured = fm.boundingRect(QRect(r.Left, r.Top, wrapWidth, 1 << 20), qt & ~(Qt::AlignVCenter | Qt::AlignBottom), shown);

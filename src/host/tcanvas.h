@@ -113,17 +113,17 @@ class TFont
 {
 public:
     QString Name() const { return FName; }
-    void SetName(const QString &name) { FName = name; }
+    void SetName(const QString &name) { FMade = FMade && name == FName; FName = name; }
     // Point size at 96 pixels per inch; Height is the character height in
     // pixels, negative as the platform writes it.
     int Size() const { return FSize; }
-    void SetSize(int points) { FSize = points; }
+    void SetSize(int points) { FMade = FMade && points == FSize; FSize = points; }
     int Height() const { return -MulDiv(FSize, 96, 72); }
-    void SetHeight(int height) { FSize = -MulDiv(height, 72, 96); }
+    void SetHeight(int height) { SetSize(-MulDiv(height, 72, 96)); }
     TColor Color() const { return FColor; }
     void SetColor(TColor c) { FColor = c; }
     TFontStyles Style() const { return FStyle; }
-    void SetStyle(TFontStyles s) { FStyle = s; }
+    void SetStyle(TFontStyles s) { FMade = FMade && s == FStyle; FStyle = s; }
     QFont ToQFont() const;
     // A widget's font in these terms: family, size in points, styles.
     static TFont FromQFont(const QFont &font, TColor color);
@@ -133,6 +133,9 @@ private:
     int FSize = 8;
     TColor FColor = clWindowText;
     TFontStyles FStyle = 0;
+    // The Qt font, made once until the font changes.
+    mutable QFont FQFont;
+    mutable bool FMade = false;
 };
 
 class TCanvas

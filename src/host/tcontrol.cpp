@@ -255,7 +255,18 @@ void TControl::SetFontColor(TColor color)
     if (FFontColor == color)
         return;
     FFontColor = color;
+    FCanvasFontMade = false;
     Invalidate();
+}
+
+TFont TControl::CanvasFont() const
+{
+    if (!FCanvasFontMade) {
+        FCanvasFont = TFont::FromQFont(font(), FFontColor);
+        FCanvasFont.ToQFont();   // made once, shared by every copy
+        FCanvasFontMade = true;
+    }
+    return FCanvasFont;
 }
 
 void TControl::contextMenuEvent(QContextMenuEvent *event)
@@ -454,6 +465,7 @@ bool TControl::event(QEvent *event)
     case QEvent::ApplicationPaletteChange:
     case QEvent::EnabledChange:
     case QEvent::FontChange:
+        FCanvasFontMade = false;
         Invalidate();
         break;
     default:

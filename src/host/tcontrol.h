@@ -133,8 +133,8 @@ public:
     void SetParentFont(bool parentFont);
     TColor FontColor() const { return FFontColor; }
     void SetFontColor(TColor color);
-    // The font as a canvas takes it.
-    TFont CanvasFont() const { return TFont::FromQFont(font(), FFontColor); }
+    // The font as a canvas takes it (made again when the font changes).
+    TFont CanvasFont() const;
 
     // Shown where the right mouse button is released over the control.
     QMenu *PopupMenu() const { return FPopupMenu; }
@@ -258,6 +258,8 @@ private:
     TColor FFontColor = clWindowText;
     QPointer<QMenu> FPopupMenu;
     QPointer<QWidget> FPassedTo;   // the widget beneath that has the current press
+    mutable TFont FCanvasFont;
+    mutable bool FCanvasFontMade = false;
     TCanvas *FCanvas = nullptr;
     QImage FBuffer;
     QRect FBounds;
