@@ -28,12 +28,7 @@ void add(QWidget *rowWidget, QWidget *w) { static_cast<QHBoxLayout *>(rowWidget-
 QGroupBox *buttonsSection(QWidget *parent)
 {
     auto *box = new QGroupBox(QStringLiteral("Buttons"), parent);
-    auto *grid = new QGridLayout(box);
-    int line = 0;
-    const auto addRow = [&](const QString &caption, QWidget *w) {
-        grid->addWidget(new QLabel(caption, box), line, 0, Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(w, line++, 1, Qt::AlignLeft);
-    };
+    SectionRows addRow(box);
 
     // Every press counts on the display, and the lamp toggles.
     auto *counter = new TqSegmentLabel(box);

@@ -64,12 +64,7 @@ QWidget *segmentText(const QString &text, const std::vector<qSegPunktur> &points
 QGroupBox *displaysSection(QWidget *parent)
 {
     auto *box = new QGroupBox(QStringLiteral("Segment displays"), parent);
-    auto *grid = new QGridLayout(box);
-    int row = 0;
-    const auto add = [&](const QString &caption, QWidget *w) {
-        grid->addWidget(new QLabel(caption, box), row, 0, Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(w, row++, 1, Qt::AlignLeft);
-    };
+    SectionRows add(box);
     add(QStringLiteral("TqSegment, the character table"), new CharacterWalk(14, 2, box));
     add(QStringLiteral("Punktur: point and colon"),
         segmentText(QStringLiteral("12305"), {spNone, spColon, spNone, spPunktum, spNone}, 2,

@@ -46,12 +46,7 @@ QPixmap stripes()
 QGroupBox *instrumentsSection(QWidget *parent)
 {
     auto *box = new QGroupBox(QStringLiteral("Indicators and instruments"), parent);
-    auto *grid = new QGridLayout(box);
-    int row = 0;
-    const auto add = [&](const QString &caption, QWidget *w) {
-        grid->addWidget(new QLabel(caption, box), row, 0, Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(w, row++, 1, Qt::AlignLeft);
-    };
+    SectionRows add(box);
 
     // Lamps: both styles, on the parent's colour and on steel; one blinks.
     auto *lamps = new QWidget(box);

@@ -1,7 +1,26 @@
 #pragma once
 // Each subsystem shows its components in a section of the gallery.
 
+#include <QGridLayout>
 #include <QGroupBox>
+#include <QLabel>
+
+// The rows of a section: a caption on the left, what it shows on the right.
+class SectionRows
+{
+public:
+    explicit SectionRows(QGroupBox *box) : FBox(box), FGrid(new QGridLayout(box)) {}
+    void operator()(const QString &caption, QWidget *w)
+    {
+        FGrid->addWidget(new QLabel(caption, FBox), FRow, 0, Qt::AlignRight | Qt::AlignVCenter);
+        FGrid->addWidget(w, FRow++, 1, Qt::AlignLeft);
+    }
+
+private:
+    QGroupBox *FBox;
+    QGridLayout *FGrid;
+    int FRow = 0;
+};
 
 QGroupBox *displaysSection(QWidget *parent);
 QGroupBox *instrumentsSection(QWidget *parent);
