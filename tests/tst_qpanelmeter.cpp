@@ -103,6 +103,18 @@ void tst_QPanelMeter::rangeRules()
     m.SetScaledMin(0);
     m.SetAlert(300);
     QCOMPARE(m.Alert(), 40);
+    // In the designer the caption follows the name until it is set.
+    DesignTimeCreation designing;
+    TqPanelMeter named;
+    named.setObjectName(QStringLiteral("Meter1"));
+    QCOMPARE(named.Caption(), QStringLiteral("Meter1"));
+    named.setObjectName(QStringLiteral("Volts"));
+    QCOMPARE(named.Caption(), QStringLiteral("Volts"));
+    named.SetCaption(QStringLiteral("mA"));
+    named.setObjectName(QStringLiteral("Amps"));
+    QCOMPARE(named.Caption(), QStringLiteral("mA"));
+    m.setObjectName(QStringLiteral("Running"));   // made outside the designer
+    QVERIFY(m.Caption().isEmpty());
 }
 
 void tst_QPanelMeter::edgewiseAlertZones()

@@ -93,6 +93,9 @@ public:
         this->Invalidate();
     }
 
+    QString Text() const override { return FCaption; }
+    void SetText(const QString &text) override { SetCaption(text); }
+
     // The state machine, for tests and subclasses.
     bool MouseIn() const { return FMouseIn; }
     bool Pressed() const { return FPressed; }
@@ -105,12 +108,6 @@ protected:
         this->SetBounds(this->x(), this->y(), 89, 33);
         this->SetColor(clWindow);
         this->SetParentColor(true);
-        // In the designer the caption follows the name it was made with.
-        QObject::connect(this, &QObject::objectNameChanged, this, [this](const QString &name) {
-            if (this->IsDesigning() && (FCaption.isEmpty() || FCaption == FNameCaption))
-                SetCaption(name);
-            FNameCaption = name;
-        });
         if (this->parentWidget())
             this->window()->installEventFilter(this);
     }
@@ -349,7 +346,6 @@ private:
     TAlignment FAlignment = taCenter;
     bool FCancel = false;
     QString FCaption;
-    QString FNameCaption;
     TColor FHighLightColor = clBtnHighlight;
     TColor FShadowColor = clBtnShadow;
     bool FMouseIn = false;

@@ -83,6 +83,11 @@ TControl::TControl(QWidget *parent) : QWidget(parent), TComponentCore(this)
     UpdateOpacity();
     adoptParentColor();
     FBounds = geometry();
+    connect(this, &QObject::objectNameChanged, this, [this](const QString &name) {
+        if ((FControlStyle & csSetCaption) && IsDesigning() && (Text().isEmpty() || Text() == FNameText))
+            SetText(name);
+        FNameText = name;
+    });
 }
 
 void TControl::SetDesigning(bool designing)

@@ -136,6 +136,12 @@ public:
     // The font as a canvas takes it (made again when the font changes).
     TFont CanvasFont() const;
 
+    // The control's text (its caption), for the controls that have one. With
+    // csSetCaption, a text still empty or equal to the old name follows the
+    // name the designer gives the control.
+    virtual QString Text() const { return QString(); }
+    virtual void SetText(const QString &text) { Q_UNUSED(text); }
+
     // Shown where the right mouse button is released over the control.
     QMenu *PopupMenu() const { return FPopupMenu; }
     void SetPopupMenu(QMenu *menu) { FPopupMenu = menu; }
@@ -258,6 +264,7 @@ private:
     TColor FFontColor = clWindowText;
     QPointer<QMenu> FPopupMenu;
     QPointer<QWidget> FPassedTo;   // the widget beneath that has the current press
+    QString FNameText;             // the name the text last followed
     mutable TFont FCanvasFont;
     mutable bool FCanvasFontMade = false;
     TCanvas *FCanvas = nullptr;

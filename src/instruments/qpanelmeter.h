@@ -70,6 +70,8 @@ public:
     // Longer captions are cut to 255 characters when drawn.
     QString Caption() const { return FCaption; }
     void SetCaption(const QString &caption);
+    QString Text() const override { return FCaption; }
+    void SetText(const QString &text) override { SetCaption(text); }
     int Min() const { return FMin; }
     // Not above Max; the value is clamped again.
     void SetScaledMin(int min);
