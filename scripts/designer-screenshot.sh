@@ -39,7 +39,7 @@ sleep 2
 # Only the collection in the widget box; the segment label selected, its
 # colour properties in the property editor.
 xdotool mousemove 128 110 click 1 type --delay 50 "Tq"
-xdotool mousemove 600 140 click 1
+xdotool mousemove 400 140 click 1
 xdotool mousemove 970 337 click 1 type --delay 50 "Color"
 sleep 2
 "$work/grab" "$PWD/docs/designer.png"
