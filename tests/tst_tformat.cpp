@@ -1,6 +1,7 @@
 // The framework's Format for one floating-point argument.
 #include "host/tformat.h"
 
+#include <QDate>
 #include <QtTest>
 
 #include <clocale>
@@ -10,6 +11,7 @@ class tst_TFormat : public QObject
 {
     Q_OBJECT
 private slots:
+    void shortDateYears();
     void formats_data();
     void formats();
     void localeSeparators();
@@ -104,6 +106,21 @@ void tst_TFormat::processLocaleAndHugeValues()
     QVERIFY(FormatFloat(QStringLiteral("%m"), std::pow(10.0L, 400), out, QLocale(QLocale::English, QLocale::UnitedStates)));
     QVERIFY2(out.startsWith(QStringLiteral("$1.00000000000000E+400")) || out.contains(QStringLiteral("E+400")), qPrintable(out));
     QVERIFY(!out.contains(QStringLiteral("inf"), Qt::CaseInsensitive));
+}
+
+void tst_TFormat::shortDateYears()
+{
+    QCOMPARE(FourDigitYear(QStringLiteral("d/M/yy")), QStringLiteral("d/M/yyyy"));
+    QCOMPARE(FourDigitYear(QStringLiteral("yyyy-MM-dd")), QStringLiteral("yyyy-MM-dd"));
+    QCOMPARE(FourDigitYear(QStringLiteral("dd.MM")), QStringLiteral("yyydd.MM"));
+    QCOMPARE(FourDigitYear(QStringLiteral("d/M/y")), QStringLiteral("d/M/yyyy"));
+    QCOMPARE(TwoDigitYear(QStringLiteral("yyyy/MM/dd")), QStringLiteral("yy/MM/dd"));
+    QCOMPARE(TwoDigitYear(QStringLiteral("dd/MM/yy")), QStringLiteral("dd/MM/yy"));
+    // The process-wide format writes the library's dates.
+    const QString saved = ShortDateFormat();
+    SetShortDateFormat(QStringLiteral("yyyy|MM|dd"));
+    QCOMPARE(DateToStr(QDate(2026, 11, 21)), QStringLiteral("2026|11|21"));
+    SetShortDateFormat(saved);
 }
 
 QTEST_APPLESS_MAIN(tst_TFormat)

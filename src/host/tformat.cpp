@@ -7,6 +7,8 @@
 #include <cstring>
 #include <limits>
 
+#include <QDate>
+#include <QMutex>
 #include <QRegularExpression>
 #include <QTime>
 
@@ -309,4 +311,47 @@ QString TimeToStr(const QTime &time, const QLocale &locale)
     static const QRegularExpression zone(QStringLiteral("\\s*\\bt+\\b\\s*"));
     format.replace(zone, QStringLiteral(" "));
     return locale.toString(time, format.trimmed());
+}
+
+namespace {
+QMutex shortDateLock;
+QString &shortDate()
+{
+    static QString format = QLocale().dateFormat(QLocale::ShortFormat);
+    return format;
+}
+} // namespace
+
+QString ShortDateFormat()
+{
+    QMutexLocker lock(&shortDateLock);
+    return shortDate();
+}
+
+void SetShortDateFormat(const QString &format)
+{
+    QMutexLocker lock(&shortDateLock);
+    shortDate() = format;
+}
+
+QString DateToStr(const QDate &date) { return QLocale().toString(date, ShortDateFormat()); }
+
+QString FourDigitYear(QString format)
+{
+    const qsizetype at = format.indexOf(QLatin1Char('y'));
+    if (at < 0)
+        return QStringLiteral("yyy") + format;
+    qsizetype run = 0;
+    while (at + run < format.size() && format[at + run] == QLatin1Char('y'))
+        ++run;
+    for (; run < 4; ++run)
+        format.insert(at, QLatin1Char('y'));
+    return format;
+}
+
+QString TwoDigitYear(QString format)
+{
+    for (qsizetype at; (at = format.indexOf(QLatin1String("yyy"))) >= 0;)
+        format.remove(at, 1);
+    return format;
 }

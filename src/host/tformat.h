@@ -22,7 +22,19 @@ bool FormatInt(const QString &format, const std::vector<long long> &args, QStrin
 // the framework gives for a format that does not fit its arguments.
 QString Format(const QString &format, const std::vector<long long> &args);
 
+class QDate;
 class QTime;
+
+// The process-wide short date format, in Qt's date format letters (d, M,
+// y); at first the locale's. The library writes dates with it.
+QString ShortDateFormat();
+void SetShortDateFormat(const QString &format);
+QString DateToStr(const QDate &date);
+// A date format whose first run of y is made four long (a format without
+// any y gains "yyy" at its start).
+QString FourDigitYear(QString format);
+// A date format with every run of y cut to two.
+QString TwoDigitYear(QString format);
 // The time in the locale's long time format, as a panel shows it: hours,
 // minutes and seconds (and the locale's AM/PM), without any time zone.
 QString TimeToStr(const QTime &time, const QLocale &locale = QLocale());

@@ -1,0 +1,66 @@
+#pragma once
+// Forms as components see them: the form that owns a component, its border
+// style in the framework's terms, and hooks on its events (the counterpart
+// of subclassing the form's window procedure).
+
+#include <QEvent>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <stdexcept>
+#include <vector>
+
+// Raised by FindForm when a component has no form.
+class EComponentError : public std::runtime_error
+{
+public:
+    explicit EComponentError(const char *message) : std::runtime_error(message) {}
+};
+
+// The form of a component: the window of the first widget up its owner
+// chain (not the component itself). Raises EComponentError("NoForm") when
+// there is none.
+QWidget *FindForm(const QObject *component);
+
+namespace Forms {
+Q_NAMESPACE
+enum TFormBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
+Q_ENUM_NS(TFormBorderStyle)
+} // namespace Forms
+using namespace Forms;
+
+// A form's border style from its window flags and size limits: no frame is
+// bsNone; a tool window is bsToolWindow when its size is fixed, else
+// bsSizeToolWin; a dialog of fixed size is bsDialog; any other fixed size
+// is bsSingle; the rest is bsSizeable.
+TFormBorderStyle FormBorderStyle(const QWidget *form);
+
+// One component's hook on a form. Several may hook one form: the hook made
+// last sees an event first, as subclassed window procedures chain. `before`
+// sees the event before the form does and may keep it from the form by
+// returning true; `after` sees the events of `afterTypes` once the form has
+// handled them. The hook lives as long as `owner` (or until deleted);
+// whichever of hook and form goes first, the other is left safe.
+class TFormHook : public QObject
+{
+    Q_OBJECT
+public:
+    using Before = std::function<bool(QEvent *)>;
+    using After = std::function<void(QEvent *)>;
+
+    TFormHook(QWidget *form, QObject *owner, Before before, After after = {},
+              std::vector<QEvent::Type> afterTypes = {});
+    ~TFormHook() override;
+
+    // The hooked form; null once it is gone.
+    QWidget *Form() const { return FForm; }
+
+private:
+    friend class TFormHooks;
+    QPointer<QWidget> FForm;
+    Before FBefore;
+    After FAfter;
+    std::vector<QEvent::Type> FAfterTypes;
+};
