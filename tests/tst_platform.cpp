@@ -1,0 +1,127 @@
+// The platform layer against the system itself: the facts beside what
+// uname, hostname, id and the environment say, and the instance lock and
+// hand-over between real processes (a killed first instance included).
+#include "platform/instancelock.h"
+#include "platform/systeminfo.h"
+
+#include <QProcess>
+#include <QUuid>
+#include <QtTest>
+
+#include <signal.h>
+
+namespace {
+
+QString run(const QString &program, const QStringList &args = {})
+{
+    QProcess p;
+    p.start(program, args);
+    p.waitForFinished(10000);
+    return QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
+}
+
+// A probe process and its output, line by line.
+struct Probe
+{
+    QProcess process;
+    Probe(const QString &key, const char *mode)
+    {
+        process.start(QStringLiteral(QC_INSTANCE_PROBE), {key, QString::fromLatin1(mode)});
+    }
+    ~Probe()
+    {
+        if (process.state() != QProcess::NotRunning) {
+            process.kill();
+            process.waitForFinished(5000);
+        }
+    }
+    // The next line of its output.
+    QString line()
+    {
+        while (!process.canReadLine())
+            if (!process.waitForReadyRead(10000))
+                return QString();
+        return QString::fromLocal8Bit(process.readLine()).trimmed();
+    }
+};
+
+QString freshKey() { return QStringLiteral("/opt/test/") + QUuid::createUuid().toString(); }
+
+} // namespace
+
+class tst_Platform : public QObject
+{
+    Q_OBJECT
+private slots:
+    void factsMatchTheSystem();
+    void firstHoldsLaterOnesHandOver();
+    void killedFirstLeavesNoLock();
+    void pairedStartsLeaveOneFirst();
+};
+
+void tst_Platform::factsMatchTheSystem()
+{
+    QCOMPARE(OsVersion().text, run("uname", {"-s"}) + QLatin1Char(' ') + run("uname", {"-r"}));
+    QCOMPARE(OsVersion().major, run("uname", {"-r"}).section(QLatin1Char('.'), 0, 0).toInt());
+    QCOMPARE(ComputerName(), run("hostname"));
+    QCOMPARE(UserName(), run("id", {"-un"}));
+    QCOMPARE(EnvironmentLines(), QProcess::systemEnvironment());
+    if (run("uname", {"-m"}) == QLatin1String("x86_64"))
+        QCOMPARE(ProcessorType(), 8664);
+    QString name, address;
+    if (HostInfo(name, address)) {
+        QCOMPARE(name, run("hostname"));
+        QVERIFY(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+\\.\\d+$")).match(address).hasMatch());
+    }
+}
+
+void tst_Platform::firstHoldsLaterOnesHandOver()
+{
+    const QString key = freshKey();
+    Probe first(key, "hold");
+    QCOMPARE(first.line(), QStringLiteral("first"));
+    QCOMPARE(first.line(), QStringLiteral("listening"));
+    for (int i = 0; i < 3; ++i) {
+        Probe later(key, "try");
+        const qint64 pid = later.process.processId();
+        QCOMPARE(later.line(), QStringLiteral("second"));
+        QVERIFY(later.process.waitForFinished(10000));
+        QCOMPARE(later.process.exitCode(), 0);
+        // Exactly one message for each later instance.
+        QCOMPARE(first.line(), QStringLiteral("got hello from %1").arg(pid));
+    }
+    // In this process too the lock is taken.
+    TInstanceLock here(key);
+    QVERIFY(!here.Acquire());
+}
+
+void tst_Platform::killedFirstLeavesNoLock()
+{
+    const QString key = freshKey();
+    {
+        Probe first(key, "hold");
+        QCOMPARE(first.line(), QStringLiteral("first"));
+        ::kill(pid_t(first.process.processId()), SIGKILL);
+        QVERIFY(first.process.waitForFinished(10000));
+    }
+    Probe next(key, "hold");
+    QCOMPARE(next.line(), QStringLiteral("first"));
+    QCOMPARE(next.line(), QStringLiteral("listening"));   // the name it left is taken over
+    Probe later(key, "try");
+    QCOMPARE(later.line(), QStringLiteral("second"));
+    QVERIFY(next.line().startsWith(QStringLiteral("got hello")));
+}
+
+void tst_Platform::pairedStartsLeaveOneFirst()
+{
+    for (int i = 0; i < 100; ++i) {
+        const QString key = freshKey();
+        Probe a(key, "hold"), b(key, "hold");
+        const QStringList said{a.line(), b.line()};
+        QCOMPARE(said.count(QStringLiteral("first")), 1);
+        QCOMPARE(said.count(QStringLiteral("second")), 1);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_Platform)
+#include "tst_platform.moc"
