@@ -1,6 +1,7 @@
 // The platform layer against the system itself: the facts beside what
 // uname, hostname, id and the environment say, and the instance lock and
 // hand-over between real processes (a killed first instance included).
+#include "platform/instancechannel.h"
 #include "platform/instancelock.h"
 #include "platform/systeminfo.h"
 
@@ -57,6 +58,7 @@ private slots:
     void firstHoldsLaterOnesHandOver();
     void killedFirstLeavesNoLock();
     void pairedStartsLeaveOneFirst();
+    void channelsOfOneProcessAllHear();
 };
 
 void tst_Platform::factsMatchTheSystem()
@@ -90,9 +92,13 @@ void tst_Platform::firstHoldsLaterOnesHandOver()
         // Exactly one message for each later instance.
         QCOMPARE(first.line(), QStringLiteral("got hello from %1").arg(pid));
     }
-    // In this process too the lock is taken.
+    // In this process too the lock is taken; within one process every
+    // lock of a key is the same one.
     TInstanceLock here(key);
     QVERIFY(!here.Acquire());
+    const QString mine = freshKey();
+    TInstanceLock a(mine), b(mine);
+    QVERIFY(a.Acquire() && b.Acquire());
 }
 
 void tst_Platform::killedFirstLeavesNoLock()
@@ -121,6 +127,18 @@ void tst_Platform::pairedStartsLeaveOneFirst()
         QCOMPARE(said.count(QStringLiteral("first")), 1);
         QCOMPARE(said.count(QStringLiteral("second")), 1);
     }
+}
+
+void tst_Platform::channelsOfOneProcessAllHear()
+{
+    const QString key = freshKey();
+    TInstanceChannel one(key), two(key);
+    QVERIFY(one.Listen() && two.Listen());
+    QSignalSpy heardOne(&one, &TInstanceChannel::Received), heardTwo(&two, &TInstanceChannel::Received);
+    QVERIFY(TInstanceChannel::Send(key, "ping"));
+    QTRY_COMPARE(heardOne.count(), 1);
+    QTRY_COMPARE(heardTwo.count(), 1);
+    QCOMPARE(heardTwo.at(0).at(0).toByteArray(), QByteArray("ping"));
 }
 
 QTEST_GUILESS_MAIN(tst_Platform)

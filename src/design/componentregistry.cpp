@@ -169,6 +169,13 @@ const std::vector<TComponentEntry> kComponents = {
      make<TqCalc>, nullptr, false,
      // Registers F to J keep an ordinary editor: TqCalc drops what is written to them.
      "NumberNum,Number,RegisterA,RegisterB,RegisterC,RegisterD,CalcResult,WhereIsLastError"},
+    {"TqShowApp", "services/mystd.h", 1, 22, "Application information",
+     "Facts about the machine and the process, the application's title, icon and hint "
+     "settings, single instance with a hand-over to the first, end-of-session events and the "
+     "short date format. Invisible at run time.",
+     make<TqShowApp>, nullptr, false,
+     "WinDir,SystemDir,EnvironmentLines,WindowKind,WinVerMajor,WinVerMinor,WinVerBuild,WindowsString,"
+     "CPUType,CPUString,ComputerName,UserName,IPHostName,IPHostAddress"},
     {"TqcTimer", "services/std2.h", 1, 49, "Threaded timer",
      "A timer that sleeps in a worker thread of its own and raises OnTimer on the GUI "
      "thread. Invisible at run time.",

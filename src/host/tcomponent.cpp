@@ -1,5 +1,7 @@
 #include "tcomponent.h"
 
+#include <exception>
+
 #include "tcanvas.h"
 
 #include <QPainter>
@@ -26,10 +28,16 @@ FormLoading::~FormLoading()
         return;
     // Loaded may free components still waiting: they take themselves off
     // the list as they go.
+    // An error a component raises from Loaded cannot leave a destructor:
+    // it is reported, and the other components still get Loaded.
     for (size_t i = 0; i < pendingLoads.size(); ++i) {
         if (TComponentCore *c = pendingLoads[i]) {
             pendingLoads[i] = nullptr;
-            c->FinishLoading();
+            try {
+                c->FinishLoading();
+            } catch (const std::exception &e) {
+                qWarning("Loaded: %s", e.what());
+            }
         }
     }
     pendingLoads.clear();

@@ -23,7 +23,8 @@ public:
 
 // While one of these lives, components created on this thread are loaded
 // from a form: when the outermost scope closes, each of them that still
-// exists gets Loaded, in the order they were made. Wrap a form load in it:
+// exists gets Loaded, in the order they were made (an error one of them
+// raises there is written as a warning). Wrap a form load in it:
 //     { FormLoading loading; form = uiLoader.load(&file, parent); }
 class FormLoading
 {

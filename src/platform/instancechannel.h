@@ -6,16 +6,18 @@
 #include <QObject>
 #include <QString>
 
-class QLocalServer;
 
 class TInstanceChannel : public QObject
 {
     Q_OBJECT
 public:
     explicit TInstanceChannel(const QString &key, QObject *parent = nullptr);
+    ~TInstanceChannel() override;
 
     // Starts listening; only the instance that holds the instance lock
-    // should (a name left by a killed first instance is taken over).
+    // should (a name left by a killed first instance is taken over). The
+    // channels of one key in a process share one listener and all hear
+    // every message.
     bool Listen();
     // Sends `message` to the instance listening under `key`, waiting for
     // one that is still starting; false when none took it within `timeoutMs`.
@@ -26,5 +28,5 @@ signals:
 
 private:
     QString FKey;
-    QLocalServer *FServer = nullptr;
+    QObject *FListener = nullptr;
 };

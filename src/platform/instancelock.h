@@ -13,8 +13,8 @@ public:
     TInstanceLock(const TInstanceLock &) = delete;
     TInstanceLock &operator=(const TInstanceLock &) = delete;
 
-    // True when this process holds the lock now (it was free, or already
-    // this one's).
+    // True when this process holds the lock now: it was free, or another
+    // lock of this process holds it (the process is the instance).
     bool Acquire();
     bool Held() const { return FHandle >= 0; }
 

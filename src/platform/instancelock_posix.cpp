@@ -2,6 +2,8 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QHash>
+#include <QMutex>
 #include <QStandardPaths>
 
 #include <fcntl.h>
@@ -14,12 +16,34 @@ QString TInstanceLock::Name(const QString &key)
         QCryptographicHash::hash(key.toUtf8(), QCryptographicHash::Sha1).toHex().left(24));
 }
 
+namespace {
+// The locks this process holds, by key, with how many holders share each:
+// the process as a whole is the instance.
+struct HeldLock
+{
+    int fd;
+    int holders;
+};
+QMutex heldLock;
+QHash<QString, HeldLock> &held()
+{
+    static QHash<QString, HeldLock> locks;
+    return locks;
+}
+} // namespace
+
 TInstanceLock::TInstanceLock(const QString &key) : FKey(key) {}
 
 TInstanceLock::~TInstanceLock()
 {
-    if (FHandle >= 0)
-        ::close(FHandle);   // closing releases the lock
+    if (FHandle < 0)
+        return;
+    QMutexLocker lock(&heldLock);
+    auto it = held().find(FKey);
+    if (it != held().end() && --it->holders == 0) {
+        ::close(it->fd);   // closing releases the lock
+        held().erase(it);
+    }
 }
 
 // An advisory lock on a file in the user's runtime folder: the kernel
@@ -28,6 +52,12 @@ bool TInstanceLock::Acquire()
 {
     if (FHandle >= 0)
         return true;
+    QMutexLocker lock(&heldLock);
+    if (auto it = held().find(FKey); it != held().end()) {   // this process holds it already
+        ++it->holders;
+        FHandle = it->fd;
+        return true;
+    }
     QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (folder.isEmpty())
         folder = QDir::tempPath();
@@ -40,5 +70,6 @@ bool TInstanceLock::Acquire()
         return false;
     }
     FHandle = fd;
+    held().insert(FKey, HeldLock{fd, 1});
     return true;
 }

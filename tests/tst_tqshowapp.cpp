@@ -1,0 +1,139 @@
+// Application information: the facts beside the system's own tools, the
+// short date rules on the process-wide format, and single instance with
+// hand-over between real processes.
+#include "host/tformat.h"
+#include "services/mystd.h"
+
+#include <QProcess>
+#include <QtTest>
+
+namespace {
+
+QString run(const QString &program, const QStringList &args = {})
+{
+    QProcess p;
+    p.start(program, args);
+    p.waitForFinished(10000);
+    return QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
+}
+
+struct Probe
+{
+    QProcess process;
+    explicit Probe(const QStringList &args = {})
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        process.setProcessEnvironment(env);
+        process.start(QStringLiteral(QC_SHOWAPP_PROBE), args);
+    }
+    ~Probe()
+    {
+        process.kill();
+        process.waitForFinished(5000);
+    }
+    QString line()
+    {
+        while (!process.canReadLine())
+            if (!process.waitForReadyRead(10000))
+                return QString();
+        return QString::fromLocal8Bit(process.readLine()).trimmed();
+    }
+};
+
+} // namespace
+
+class tst_TqShowApp : public QObject
+{
+    Q_OBJECT
+private slots:
+    void factsAsTheSystemSaysThem();
+    void shortDateRules();
+    void loadedAloneHasNoForm();
+    void secondStartHandsOverAndEnds();
+    void secondStartMayLeaveTheFirstAlone();
+};
+
+void tst_TqShowApp::factsAsTheSystemSaysThem()
+{
+    TqShowApp info;
+    QCOMPARE(info.WindowsString(), run("uname", {"-s"}) + QLatin1Char(' ') + run("uname", {"-r"}));
+    QCOMPARE(info.ComputerName(), run("hostname"));
+    QCOMPARE(info.UserName(), run("id", {"-un"}));
+    QCOMPARE(info.EnvironmentLines(), QProcess::systemEnvironment());
+    if (run("uname", {"-m"}) == QLatin1String("x86_64")) {
+        QCOMPARE(info.CPUType(), 8);
+        QCOMPARE(info.CPUString(), QStringLiteral("P8"));
+    }
+    QCOMPARE(info.IPHostName(), QStringLiteral("-Unknown-"));   // until asked for
+    info.SetEnabledHostInfo(true);
+    QVERIFY(info.IPHostName() == run("hostname") || info.IPHostName() == QStringLiteral("-none-"));
+    // Settings live on the application object, not in the component.
+    info.SetTitle(QStringLiteral("Bench rig"));
+    info.SetHelpFile(QStringLiteral("rig.qch"));
+    TqShowApp other;
+    QCOMPARE(other.Title(), QStringLiteral("Bench rig"));
+    QCOMPARE(other.HelpFile(), QStringLiteral("rig.qch"));
+}
+
+void tst_TqShowApp::shortDateRules()
+{
+    SetShortDateFormat(QStringLiteral("d/M/yy"));
+    TqShowApp info;   // remembers d/M/yy
+    info.SetShortDate(TqShowApp::sdf4DigitYear);
+    QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yyyy"));
+    info.SetShortDate(TqShowApp::sdf2DigitYear);
+    QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yy"));
+    SetShortDateFormat(QStringLiteral("yyyy.MM.dd"));   // changed by other code meanwhile
+    info.SetShortDate(TqShowApp::sdf2DigitYear);
+    QCOMPARE(ShortDateFormat(), QStringLiteral("yy.MM.dd"));
+    info.SetShortDate(TqShowApp::sdfDontTouch);
+    QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yy"));
+}
+
+void tst_TqShowApp::loadedAloneHasNoForm()
+{
+    TqShowApp info;
+    info.QueueLoaded();
+    QVERIFY_THROWS_EXCEPTION(EComponentError, info.FinishLoading());
+}
+
+void tst_TqShowApp::secondStartHandsOverAndEnds()
+{
+    Probe first;
+    QCOMPARE(first.line(), QStringLiteral("first"));
+    for (int i = 0; i < 5; ++i) {
+        Probe second;
+        QCOMPARE(second.line(), QStringLiteral("second"));
+        QVERIFY(second.process.waitForFinished(10000));   // it ends by itself
+        QCOMPARE(first.line(), QStringLiteral("another"));   // once for each
+    }
+    // Started in pairs, exactly one of each pair is first.
+    first.process.kill();
+    first.process.waitForFinished(5000);
+    for (int i = 0; i < 20; ++i) {
+        Probe a, b;
+        const QStringList said{a.line(), b.line()};
+        QCOMPARE(said.count(QStringLiteral("first")), 1);
+        QCOMPARE(said.count(QStringLiteral("second")), 1);
+    }
+}
+
+void tst_TqShowApp::secondStartMayLeaveTheFirstAlone()
+{
+    Probe first;
+    QCOMPARE(first.line(), QStringLiteral("first"));
+    {
+        Probe second({QStringLiteral("nobring")});
+        QCOMPARE(second.line(), QStringLiteral("second"));
+        QVERIFY(second.process.waitForFinished(10000));
+    }
+    // A later start that does hand over is heard; the one before was not.
+    Probe third;
+    QCOMPARE(third.line(), QStringLiteral("second"));
+    QCOMPARE(first.line(), QStringLiteral("another"));
+    QVERIFY(!first.process.canReadLine());
+}
+
+QTEST_MAIN(tst_TqShowApp)
+#include "tst_tqshowapp.moc"
