@@ -3,6 +3,8 @@
 
 #include "sections.h"
 
+#include "services/mystd.h"
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTimer>
@@ -28,11 +30,20 @@ int main(int argc, char **argv)
     window.setWindowTitle(QApplication::applicationName());
     auto *layout = new QGridLayout(&window);
     layout->addWidget(displaysSection(&window), 0, 0);
-    layout->addWidget(servicesSection(&window), 1, 0);
+    // Application information on the gallery's window: one gallery at a
+    // time (a second start hands over and ends), except for pictures.
+    auto *info = new TqShowApp(&window);
+    info->SetOnlyOneInstance(!parser.isSet(screenshot));
+    info->SetTitle(QApplication::applicationName());
+    layout->addWidget(servicesSection(&window, info), 1, 0);
     layout->addWidget(instrumentsSection(&window), 0, 1, 2, 1);
     layout->addWidget(controlsSection(&window), 2, 0, 1, 2);
     layout->addWidget(buttonsSection(&window), 3, 0, 1, 2);
     layout->setRowStretch(4, 1);
+    info->QueueLoaded();
+    info->FinishLoading();
+    if (info->Closing())
+        return app.exec();   // handed over: ends at once
     window.show();
 
     if (parser.isSet(screenshot)) {

@@ -26,4 +26,5 @@ QGroupBox *displaysSection(QWidget *parent);
 QGroupBox *instrumentsSection(QWidget *parent);
 QGroupBox *controlsSection(QWidget *parent);
 QGroupBox *buttonsSection(QWidget *parent);
-QGroupBox *servicesSection(QWidget *parent);
+class TqShowApp;
+QGroupBox *servicesSection(QWidget *parent, TqShowApp *info);

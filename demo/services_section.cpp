@@ -2,6 +2,9 @@
 
 #include "services/mystd.h"
 #include "services/std2.h"
+#include "host/tformat.h"
+
+#include <memory>
 
 #include <QLineEdit>
 #include <QMetaEnum>
@@ -10,7 +13,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
-QGroupBox *servicesSection(QWidget *parent)
+QGroupBox *servicesSection(QWidget *parent, TqShowApp *info)
 {
     auto *box = new QGroupBox(QStringLiteral("Services"), parent);
     auto *grid = new QGridLayout(box);
@@ -63,5 +66,21 @@ QGroupBox *servicesSection(QWidget *parent)
     grid->addWidget(line, 1, 1);
     grid->addWidget(result, 2, 1);
     grid->addWidget(registers, 3, 1);
+
+    // Application information: the facts, and the starts it has handed over.
+    auto *facts = new QLabel(box);
+    facts->setTextFormat(Qt::PlainText);
+    facts->setText(QStringLiteral("%1, %2 (%3), %4@%5, short dates as %6")
+                       .arg(info->WindowsString(), info->CPUString())
+                       .arg(info->CPUType())
+                       .arg(info->UserName(), info->ComputerName(), ShortDateFormat()));
+    auto *starts = new QLabel(QStringLiteral("a second start of the gallery hands over to this one"), box);
+    auto handed = std::make_shared<int>(0);
+    QObject::connect(info, &TqShowApp::OnAnotherInstance, starts, [starts, handed](QObject *) {
+        starts->setText(QStringLiteral("%1 later start(s) handed over and ended").arg(++*handed));
+    });
+    grid->addWidget(new QLabel(QStringLiteral("TqShowApp"), box), 4, 0, Qt::AlignRight);
+    grid->addWidget(facts, 4, 1);
+    grid->addWidget(starts, 5, 1);
     return box;
 }
