@@ -1,6 +1,7 @@
 #include "raster.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdlib>
 
 namespace Raster {
@@ -15,37 +16,8 @@ long long ceilDiv(long long n, long long d) { return -floorDiv(-n, d); }
 
 Points LinePoints(TPoint a, TPoint b)
 {
-    const int dx = b.X - a.X, dy = b.Y - a.Y;
-    // Octants 1..8 counter-clockwise from +x with y downwards; a line on an
-    // octant's boundary belongs to the octant after it.
-    int octant;
-    if (dy > 0)
-        octant = dx > 0 ? (dx > dy ? 1 : 2) : (-dx > dy ? 4 : 3);
-    else
-        octant = dx < 0 ? (-dx > -dy ? 5 : 6) : (dx > -dy ? 8 : 7);
-    const int bias = (octant == 3 || octant == 5 || octant == 6 || octant == 8) ? 1 : 0;
-    const bool xMajor = octant == 1 || octant == 4 || octant == 5 || octant == 8;
-    const int major = xMajor ? std::abs(dx) : std::abs(dy);
-    const int minor = xMajor ? std::abs(dy) : std::abs(dx);
-    const int sx = (octant == 1 || octant == 2 || octant == 7 || octant == 8) ? 1 : -1;
-    const int sy = octant <= 4 ? 1 : -1;
-
     Points out;
-    out.reserve(size_t(major));
-    TPoint p = a;
-    int err = 2 * minor - major;
-    for (int i = 0; i < major; ++i) {
-        out.push_back(p);
-        const bool stepMinor = err + bias > 0;
-        err += stepMinor ? 2 * minor - 2 * major : 2 * minor;
-        if (xMajor) {
-            p.X += sx;
-            if (stepMinor) p.Y += sy;
-        } else {
-            p.Y += sy;
-            if (stepMinor) p.X += sx;
-        }
-    }
+    WalkLine(a, b, Rect(INT_MIN / 2, INT_MIN / 2, INT_MAX / 2, INT_MAX / 2), [&](int x, int y) { out.push_back({x, y}); });
     return out;
 }
 

@@ -1,5 +1,7 @@
 #include "qscope.h"
 
+#include "host/tscale.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -24,11 +26,7 @@ int ScopeLevel(int sample, int adjust, int min, int max, int height)
 
 int ScopeGridLevel(int v, int min, int max, int height)
 {
-    const long long span = (long long)max - min;
-    if (span == 0)
-        return 0;
-    const double ys = height / 100.0;
-    return int(std::nearbyint(double(((long long)v - min) * 100 / span) * ys));
+    return int(std::nearbyint(ScalePercent(v, min, max) * (height / 100.0)));
 }
 
 TqScope::TqScope(QWidget *parent) : TGraphicControl(parent)
@@ -174,23 +172,14 @@ void TqScope::Paint(TCanvas &canvas)
             }
         // At multiples of GridYstep strictly between Min and Max; values with
         // the same whole percentage share a row, drawn once.
-        const long long step = std::llabs((long long)FStepY), span = (long long)FMax - FMin;
-        if (step > 0 && span > 0) {
-            const auto firstMultiple = [&](long long from) {
-                const long long q = from >= 0 ? (from + step - 1) / step : -((-from) / step);
-                return q * step;
-            };
-            long long v = firstMultiple((long long)FMin + 1);
-            while (v <= (long long)FMax - 1) {
-                const int y = ScopeGridLevel(int(v), FMin, FMax, B);
+        if (FStepY != 0)
+            ForEachScalePercent(FMin, FMax, FStepY, [&](int v, int) {
+                if (v <= FMin || v >= FMax)
+                    return;
+                const int y = ScopeGridLevel(v, FMin, FMax, B);
                 canvas.MoveTo(0, B - y);
                 canvas.LineTo(R - 1, B - y);
-                // The first value of the next percentage.
-                const long long pct = (v - FMin) * 100 / span;
-                const long long next = FMin + ((pct + 1) * span + 99) / 100;
-                v = firstMultiple(std::max(next, v + 1));
-            }
-        }
+            });
     }
     if (FShowBeam1)
         beam(canvas, FSamples1, FAjust1, FBeam1Color);
