@@ -774,8 +774,7 @@ int TCanvas::DrawText(const QString &text, TRect &r, unsigned flags)
     QString shown = text;
     if ((flags & DT_END_ELLIPSIS) && (flags & DT_SINGLELINE))
         shown = fm.elidedText(text, Qt::ElideRight, r.Width(), qt);
-    if (!(flags & DT_CALCRECT) && FImage && (Brush.Style() != bsSolid || !Brush.Bitmap().isNull())) {
-        // No background to fill first: lay the text out once, while drawing.
+    const auto draw = [&](QRect *drawn) {
         QPainter p(FImage);
         QRegion clip = (flags & DT_NOCLIP) ? QRegion(FImage->rect()) : QRegion(ToQRect(r));
         if (!FClip.isEmpty())
@@ -783,8 +782,12 @@ int TCanvas::DrawText(const QString &text, TRect &r, unsigned flags)
         p.setClipRegion(clip);
         p.setFont(font);
         p.setPen(ColorToQColor(Font.Color()));
+        p.drawText(ToQRect(r), qt, shown, drawn);
+    };
+    if (!(flags & DT_CALCRECT) && FImage && (Brush.Style() != bsSolid || !Brush.Bitmap().isNull())) {
+        // No background to fill first: lay the text out once, while drawing.
         QRect drawn;
-        p.drawText(ToQRect(r), qt, shown, &drawn);
+        draw(&drawn);
         return shown.isEmpty() ? 0 : drawn.height();
     }
 
@@ -798,16 +801,8 @@ int TCanvas::DrawText(const QString &text, TRect &r, unsigned flags)
     }
     if (!FImage)
         return height;
-    QRect box = ToQRect(r);
-    textBackground(alignedBox(box, qt, QSize(measured.width(), height)));
-    QPainter p(FImage);
-    QRegion clip = (flags & DT_NOCLIP) ? QRegion(FImage->rect()) : QRegion(box);
-    if (!FClip.isEmpty())
-        clip &= FClip;
-    p.setClipRegion(clip);
-    p.setFont(font);
-    p.setPen(ColorToQColor(Font.Color()));
-    p.drawText(box, qt, shown);
+    textBackground(alignedBox(ToQRect(r), qt, QSize(measured.width(), height)));
+    draw(nullptr);
     return height;
 }
 
