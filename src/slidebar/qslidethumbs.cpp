@@ -2,6 +2,8 @@
 
 #include "host/tbitmap.h"
 
+#include <functional>
+
 #include <vector>
 
 namespace {
@@ -41,9 +43,9 @@ struct Builder
         c.Pen.SetColor(color);
         c.Polyline(std::vector<TPoint>(points));
     }
-    // Makes everything outside `outline` transparent: white in the mask,
-    // black in the image.
-    void cutTo(const std::vector<TPoint> &outline)
+    // Makes everything outside the shape `draw` paints transparent: white
+    // in the mask, black in the image.
+    void cutTo(const std::function<void(TCanvas &)> &draw)
     {
         const auto cut = [&](TCanvas &c, TColor outside, TColor inside) {
             c.Pen.SetColor(outside);
@@ -51,20 +53,7 @@ struct Builder
             c.FillRect(Rect(0, 0, thumb.Width(), thumb.Height()));
             c.Pen.SetColor(inside);
             c.Brush.SetColor(inside);
-            c.Polygon(outline);
-        };
-        cut(mask.Canvas(), clWhite, clBlack);
-        cut(thumb.Canvas(), clBlack, face);
-    }
-    void cutToCircle()
-    {
-        const auto cut = [&](TCanvas &c, TColor outside, TColor inside) {
-            c.Pen.SetColor(outside);
-            c.Brush.SetColor(outside);
-            c.FillRect(Rect(0, 0, thumb.Width(), thumb.Height()));
-            c.Pen.SetColor(inside);
-            c.Brush.SetColor(inside);
-            c.Ellipse(0, 0, thumb.Width(), thumb.Height());
+            draw(c);
         };
         cut(mask.Canvas(), clWhite, clBlack);
         cut(thumb.Canvas(), clBlack, face);
@@ -99,15 +88,21 @@ TThumbBitmaps MakeType2(TColor face)
     return b.result();
 }
 
-TThumbBitmaps MakeType1(TColor face)
+// The same thumb lying on its side: every builder whose pairs differ only
+// in direction draws with horizontal and vertical lines alone, so the
+// turned picture is exactly the other one's.
+QImage transposed(const QImage &image)
 {
-    Builder b(20, 10, face);
-    b.line(clGray, {{19, 0}, {0, 0}, {0, 9}, {0, 5}, {18, 5}, {18, 2}, {18, 8}, {2, 8}});
-    b.line(clBlack, {{19, 1}, {19, 9}, {0, 9}});
-    b.line(clWhite, {{1, 6}, {1, 8}});
-    b.line(clWhite, {{18, 1}, {1, 1}, {1, 4}, {17, 4}});
-    return b.result();
+    QImage out(image.height(), image.width(), image.format());
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            out.setPixel(y, x, image.pixel(x, y));
+    return out;
 }
+
+TThumbBitmaps transposed(const TThumbBitmaps &t) { return {transposed(t.thumb), transposed(t.mask)}; }
+
+TThumbBitmaps MakeType1(TColor face) { return transposed(MakeType2(face)); }
 
 // The sunken handle: dark above and left, light below and right, with a
 // raised ridge along its middle.
@@ -122,16 +117,7 @@ TThumbBitmaps MakeType4(TColor face)
     return b.result();
 }
 
-TThumbBitmaps MakeType3(TColor face)
-{
-    Builder b(20, 10, face);
-    b.line(clBlack, {{19, 0}, {0, 0}, {0, 9}});
-    b.line(clGray, {{18, 1}, {1, 1}, {1, 8}});
-    b.line(clWhite, {{19, 1}, {19, 9}, {0, 9}});
-    b.line(clWhite, {{3, 4}, {17, 4}});
-    b.line(clGray, {{3, 5}, {17, 5}});
-    return b.result();
-}
+TThumbBitmaps MakeType3(TColor face) { return transposed(MakeType4(face)); }
 
 // A raised square button (20 x 20).
 void square(Builder &b)
@@ -185,28 +171,14 @@ TThumbBitmaps MakeTypeC(TColor face, bool hairline)
 }
 
 // The same turned upright: a vertical slot, and an upright hairline.
-TThumbBitmaps MakeTypeD(TColor face, bool hairline)
-{
-    Builder b(20, 20, face);
-    hollow(b);
-    b.fill(Rect(3, 3, 7, 17));
-    b.fill(Rect(13, 3, 17, 17));
-    b.line(clGray, {{6, 3}, {6, 17}});
-    b.line(clWhite, {{13, 3}, {13, 17}});
-    if (hairline) {
-        b.fill(Rect(9, 3, 11, 17));
-        b.line(clBlack, {{9, 3}, {9, 17}});
-        b.line(clGray, {{10, 3}, {10, 17}});
-    }
-    return b.result();
-}
+TThumbBitmaps MakeTypeD(TColor face, bool hairline) { return transposed(MakeTypeC(face, hairline)); }
 
 // A pointer: a raised body with a point toward the track. The outline runs
 // clockwise from the tip; edges facing up or left are lit, the others dark.
 TThumbBitmaps pointer(int w, int h, const std::vector<TPoint> &outline, TColor face)
 {
     Builder b(w, h, face);
-    b.cutTo(outline);
+    b.cutTo([&](TCanvas &c) { c.Polygon(outline); });
     const size_t n = outline.size();
     for (size_t i = 0; i < n; ++i) {
         const TPoint p = outline[i], q = outline[(i + 1) % n];
@@ -242,7 +214,7 @@ TThumbBitmaps MakeType9(TColor face)   // pointing down
 // groove across.
 void round(Builder &b)
 {
-    b.cutToCircle();
+    b.cutTo([&](TCanvas &c) { c.Ellipse(0, 0, c.Image()->width(), c.Image()->height()); });
     TCanvas &c = b.thumb.Canvas();
     c.Pen.SetColor(clWhite);
     c.Arc(0, 0, 15, 15, 15, 0, 0, 15);
