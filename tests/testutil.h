@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QProcess>
 #include <QStringList>
 #include <QWidget>
 #include <QtTest>
@@ -45,4 +46,13 @@ inline void dragTo(QWidget *w, QPoint p)
     QMouseEvent move(QEvent::MouseMove, QPointF(p), w->mapToGlobal(QPointF(p)), Qt::NoButton, Qt::LeftButton,
                      Qt::NoModifier);
     QApplication::sendEvent(w, &move);
+}
+
+// What a system tool prints, trimmed.
+inline QString runTool(const QString &program, const QStringList &args = {})
+{
+    QProcess p;
+    p.start(program, args);
+    p.waitForFinished(10000);
+    return QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
 }

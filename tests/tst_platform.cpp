@@ -5,6 +5,8 @@
 #include "platform/instancelock.h"
 #include "platform/systeminfo.h"
 
+#include "testutil.h"
+
 #include <QProcess>
 #include <QUuid>
 #include <QtTest>
@@ -12,14 +14,6 @@
 #include <signal.h>
 
 namespace {
-
-QString run(const QString &program, const QStringList &args = {})
-{
-    QProcess p;
-    p.start(program, args);
-    p.waitForFinished(10000);
-    return QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
-}
 
 // A probe process and its output, line by line.
 struct Probe
@@ -63,16 +57,16 @@ private slots:
 
 void tst_Platform::factsMatchTheSystem()
 {
-    QCOMPARE(OsVersion().text, run("uname", {"-s"}) + QLatin1Char(' ') + run("uname", {"-r"}));
-    QCOMPARE(OsVersion().major, run("uname", {"-r"}).section(QLatin1Char('.'), 0, 0).toInt());
-    QCOMPARE(ComputerName(), run("hostname"));
-    QCOMPARE(UserName(), run("id", {"-un"}));
+    QCOMPARE(OsVersion().text, runTool("uname", {"-s"}) + QLatin1Char(' ') + runTool("uname", {"-r"}));
+    QCOMPARE(OsVersion().major, runTool("uname", {"-r"}).section(QLatin1Char('.'), 0, 0).toInt());
+    QCOMPARE(ComputerName(), runTool("hostname"));
+    QCOMPARE(UserName(), runTool("id", {"-un"}));
     QCOMPARE(EnvironmentLines(), QProcess::systemEnvironment());
-    if (run("uname", {"-m"}) == QLatin1String("x86_64"))
+    if (runTool("uname", {"-m"}) == QLatin1String("x86_64"))
         QCOMPARE(ProcessorType(), 8664);
     QString name, address;
     if (HostInfo(name, address)) {
-        QCOMPARE(name, run("hostname"));
+        QCOMPARE(name, runTool("hostname"));
         QVERIFY(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+\\.\\d+$")).match(address).hasMatch());
     }
 }

@@ -4,18 +4,12 @@
 #include "host/tformat.h"
 #include "services/mystd.h"
 
+#include "testutil.h"
+
 #include <QProcess>
 #include <QtTest>
 
 namespace {
-
-QString run(const QString &program, const QStringList &args = {})
-{
-    QProcess p;
-    p.start(program, args);
-    p.waitForFinished(10000);
-    return QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
-}
 
 struct Probe
 {
@@ -57,17 +51,17 @@ private slots:
 void tst_TqShowApp::factsAsTheSystemSaysThem()
 {
     TqShowApp info;
-    QCOMPARE(info.WindowsString(), run("uname", {"-s"}) + QLatin1Char(' ') + run("uname", {"-r"}));
-    QCOMPARE(info.ComputerName(), run("hostname"));
-    QCOMPARE(info.UserName(), run("id", {"-un"}));
+    QCOMPARE(info.WindowsString(), runTool("uname", {"-s"}) + QLatin1Char(' ') + runTool("uname", {"-r"}));
+    QCOMPARE(info.ComputerName(), runTool("hostname"));
+    QCOMPARE(info.UserName(), runTool("id", {"-un"}));
     QCOMPARE(info.EnvironmentLines(), QProcess::systemEnvironment());
-    if (run("uname", {"-m"}) == QLatin1String("x86_64")) {
+    if (runTool("uname", {"-m"}) == QLatin1String("x86_64")) {
         QCOMPARE(info.CPUType(), 8);
         QCOMPARE(info.CPUString(), QStringLiteral("P8"));
     }
     QCOMPARE(info.IPHostName(), QStringLiteral("-Unknown-"));   // until asked for
     info.SetEnabledHostInfo(true);
-    QVERIFY(info.IPHostName() == run("hostname") || info.IPHostName() == QStringLiteral("-none-"));
+    QVERIFY(info.IPHostName() == runTool("hostname") || info.IPHostName() == QStringLiteral("-none-"));
     // Settings live on the application object, not in the component.
     info.SetTitle(QStringLiteral("Bench rig"));
     info.SetHelpFile(QStringLiteral("rig.qch"));
