@@ -44,6 +44,8 @@ private slots:
     void factsAsTheSystemSaysThem();
     void shortDateRules();
     void loadedAloneHasNoForm();
+    void applicationEventsAndSettings();
+    void endOfSessionAskedOfTheMainForm();
     void secondStartHandsOverAndEnds();
     void secondStartMayLeaveTheFirstAlone();
 };
@@ -90,6 +92,57 @@ void tst_TqShowApp::loadedAloneHasNoForm()
     TqShowApp info;
     info.QueueLoaded();
     QVERIFY_THROWS_EXCEPTION(EComponentError, info.FinishLoading());
+}
+
+void tst_TqShowApp::applicationEventsAndSettings()
+{
+    TqShowApp info;
+    EventLog log;
+    log.watch(&info, &TqShowApp::OnHint, "hint");
+    Application()->SetHint(QStringLiteral("Trigger level"));
+    Application()->SetHint(QStringLiteral("Trigger level"));   // no change, no event
+    QCOMPARE(log.names, QStringList{"hint"});
+    info.SetHintPause(120);
+    QCOMPARE(Application()->HintPause(), 120);
+    // Designing a form leaves the designer's own application alone.
+    std::unique_ptr<TqShowApp> designed;
+    {
+        DesignTimeCreation designing;
+        designed = std::make_unique<TqShowApp>();
+    }
+    designed->SetTitle(QStringLiteral("Designed"));
+    designed->SetHintPause(900);
+    QCOMPARE(designed->Title(), QStringLiteral("Designed"));
+    QCOMPARE(designed->HintPause(), 900);
+    QVERIFY(Application()->Title() != QLatin1String("Designed"));
+    QCOMPARE(Application()->HintPause(), 120);
+}
+
+void tst_TqShowApp::endOfSessionAskedOfTheMainForm()
+{
+    QWidget form, dialog;
+    auto *info = new TqShowApp(&form);
+    auto *other = new TqShowApp(&dialog);
+    for (TqShowApp *c : {info, other}) {
+        c->QueueLoaded();
+        c->FinishLoading();
+    }
+    Application()->SetMainForm(&form);
+    QStringList seen;
+    bool allow = false;
+    connect(info, &TqShowApp::OnAskEndSession, info, [&](bool &doEnd) { seen << "ask"; doEnd = allow; });
+    connect(info, &TqShowApp::OnEndSession, info, [&] { seen << "end"; });
+    connect(other, &TqShowApp::OnAskEndSession, other, [&](bool &doEnd) { seen << "other"; doEnd = false; });
+    QVERIFY(!Application()->QueryEndSession());
+    allow = true;
+    QVERIFY(Application()->QueryEndSession());
+    TEndSessionEvent ending;
+    QCoreApplication::sendEvent(&form, &ending);
+    // Only the main form's component is asked.
+    TQueryEndSessionEvent query;
+    QCoreApplication::sendEvent(&dialog, &query);
+    QVERIFY(query.DoEnd);
+    QCOMPARE(seen, (QStringList{"ask", "ask", "end"}));
 }
 
 void tst_TqShowApp::secondStartHandsOverAndEnds()

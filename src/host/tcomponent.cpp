@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "tapplication.h"
 #include "tcanvas.h"
 
 #include <QPainter>
@@ -81,6 +82,11 @@ void TComponent::SetDesigning(bool designing)
 {
     TComponentCore::SetDesigning(designing);
     setVisible(designing);
+}
+
+bool TComponent::event(QEvent *event)
+{
+    return GuardEvent(this, [&] { return QWidget::event(event); });
 }
 
 void TComponent::paintEvent(QPaintEvent *)

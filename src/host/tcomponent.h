@@ -92,4 +92,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    // Exceptions escaping an event go to the application object.
+    bool event(QEvent *event) override;
 };

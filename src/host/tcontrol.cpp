@@ -1,5 +1,7 @@
 #include "tcontrol.h"
 
+#include "tapplication.h"
+
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <algorithm>
@@ -463,7 +465,15 @@ QImage TControl::RenderImage(QRgb background)
     return image;
 }
 
+// An exception that escapes the handling of an event (the control's own or
+// application code behind the signals it emits) goes to the application
+// object, as the events of every component do.
 bool TControl::event(QEvent *event)
+{
+    return GuardEvent(this, [&] { return handleEvent(event); });
+}
+
+bool TControl::handleEvent(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::PaletteChange:        // system colours follow the palette

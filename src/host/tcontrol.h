@@ -235,6 +235,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    bool handleEvent(QEvent *event);
     bool acceptsDrag(QDropEvent *event, TDragState state);
     // Hands a mouse event to the widget the press went through to.
     bool passOn(QMouseEvent *event);

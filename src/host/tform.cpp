@@ -1,5 +1,7 @@
 #include "tform.h"
 
+#include "tapplication.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -51,6 +53,12 @@ protected:
     {
         if (watched != parent() || FHooks.isEmpty())
             return false;
+        return GuardEvent(watched, [&] { return filter(watched, event); }, false);
+    }
+
+private:
+    bool filter(QObject *watched, QEvent *event)
+    {
         // A copy: a handler may add or remove hooks.
         const QList<QPointer<TFormHook>> hooks(FHooks.begin(), FHooks.end());
         bool after = false;
@@ -76,7 +84,6 @@ protected:
         return true;
     }
 
-private:
     explicit TFormHooks(QWidget *form) : QObject(form) {}
     QList<TFormHook *> FHooks;
 };

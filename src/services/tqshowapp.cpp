@@ -5,13 +5,11 @@
 #include "platform/instancechannel.h"
 #include "platform/instancelock.h"
 #include "platform/systeminfo.h"
+#include "platform/windowhints.h"
 
-#include <QAbstractEventDispatcher>
 #include <QEvent>
 #include <QApplication>
-#include <QSessionManager>
-#include <QToolTip>
-#include <QWindowStateChangeEvent>
+#include <QTimer>
 #include <QWindow>
 
 int CpuID()
@@ -26,48 +24,37 @@ void GetHostInfo(QString &name, QString &address)
         name = address = QStringLiteral("-none-");
 }
 
-namespace {
-
-// The application object's settings that the component forwards.
-QVariant appSetting(const char *name, const QVariant &otherwise)
-{
-    const QVariant v = qApp ? qApp->property(name) : QVariant();
-    return v.isValid() ? v : otherwise;
-}
-
-void setAppSetting(const char *name, const QVariant &value)
-{
-    if (qApp)
-        qApp->setProperty(name, value);
-}
-
-} // namespace
-
 TqShowApp::TqShowApp(QWidget *owner) : TComponent(owner)
 {
     FSavedShortDate = ShortDateFormat();
     FCpuType = CpuID();
     FEnvironment = ::EnvironmentLines();
     SetShowMainForm(true);
-    if (IsDesigning() || !qApp)
+}
+
+// Connecting to one of the application's events here connects it to the
+// application object's own, once.
+void TqShowApp::connectNotify(const QMetaMethod &signal)
+{
+    if (IsDesigning() || !Application())
         return;
-    // The application's events, passed on.
-    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive)
-            emit OnActivate(this);
-        else if (state == Qt::ApplicationInactive)
-            emit OnDeActivate(this);
-    });
-    if (auto *dispatcher = QAbstractEventDispatcher::instance())
-        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] {
-            bool done = true;
-            emit OnIdle(this, done);
-        });
-    connect(qApp, &QGuiApplication::commitDataRequest, this, &TqShowApp::commitData, Qt::DirectConnection);
-    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
-        if (FEnding)
-            emit OnEndSession();
-    });
+    TApplication *app = Application();
+    const auto relay = [&](int bit, auto appSignal, auto ownSignal) {
+        if (signal == QMetaMethod::fromSignal(ownSignal) && !(FRelayed & (1u << bit))) {
+            FRelayed |= 1u << bit;
+            connect(app, appSignal, this, ownSignal);
+        }
+    };
+    relay(0, &TApplication::OnActivate, &TqShowApp::OnActivate);
+    relay(1, &TApplication::OnDeactivate, &TqShowApp::OnDeActivate);
+    relay(2, &TApplication::OnException, &TqShowApp::OnExecption);
+    relay(3, &TApplication::OnHelp, &TqShowApp::OnHelp);
+    relay(4, &TApplication::OnHint, &TqShowApp::OnHint);
+    relay(5, &TApplication::OnIdle, &TqShowApp::OnIdle);
+    relay(6, &TApplication::OnMessage, &TqShowApp::OnMessage);
+    relay(7, &TApplication::OnMinimize, &TqShowApp::OnMinimize);
+    relay(8, &TApplication::OnRestore, &TqShowApp::OnRestore);
+    relay(9, &TApplication::OnShowHint, &TqShowApp::OnShowHint);
 }
 
 TqShowApp::~TqShowApp() = default;
@@ -122,37 +109,50 @@ QString TqShowApp::IPHostAddress() const
     return address;
 }
 
-QString TqShowApp::HelpFile() const { return appSetting("HelpFile", QString()).toString(); }
-void TqShowApp::SetHelpFile(const QString &file) { setAppSetting("HelpFile", file); }
-QString TqShowApp::Hint() const { return appSetting("Hint", QString()).toString(); }
-void TqShowApp::SetHint(const QString &hint) { setAppSetting("Hint", hint); }
-TColor TqShowApp::HintColor() const { return QColorToColor(QToolTip::palette().color(QPalette::ToolTipBase)); }
-
-void TqShowApp::SetHintColor(TColor color)
+// In the designer a setting stays with the component; `designing` keeps
+// it there and says so, `setting` reads it back.
+bool TqShowApp::designing(const char *name, const QVariant &value)
 {
-    QPalette palette = QToolTip::palette();
-    palette.setColor(QPalette::ToolTipBase, ColorToQColor(color));
-    QToolTip::setPalette(palette);
+    if (!IsDesigning() && Application())
+        return false;
+    FDesignValues.insert(QLatin1String(name), value);
+    return true;
 }
 
-int TqShowApp::HintPause() const { return appSetting("HintPause", 500).toInt(); }
-void TqShowApp::SetHintPause(int millis) { setAppSetting("HintPause", millis); }
-int TqShowApp::HintHidePause() const { return appSetting("HintHidePause", 2500).toInt(); }
-void TqShowApp::SetHintHidePause(int millis) { setAppSetting("HintHidePause", millis); }
-bool TqShowApp::ShowMainForm() const { return appSetting("ShowMainForm", true).toBool(); }
-void TqShowApp::SetShowMainForm(bool show) { setAppSetting("ShowMainForm", show); }
-QIcon TqShowApp::Icon() const { return QApplication::windowIcon(); }
-void TqShowApp::SetIcon(const QIcon &icon) { QApplication::setWindowIcon(icon); }
-bool TqShowApp::ShowHint() const { return appSetting("ShowHint", true).toBool(); }
-void TqShowApp::SetShowHint(bool show) { setAppSetting("ShowHint", show); }
-QString TqShowApp::Title() const { return QGuiApplication::applicationDisplayName(); }
-void TqShowApp::SetTitle(const QString &title) { QGuiApplication::setApplicationDisplayName(title); }
+QVariant TqShowApp::setting(const char *name, const QVariant &value) const
+{
+    if (!IsDesigning() && Application())
+        return value;
+    return FDesignValues.value(QLatin1String(name), value);
+}
+
+QString TqShowApp::HelpFile() const { return setting("HelpFile", Application() ? Application()->HelpFile() : QString()).toString(); }
+void TqShowApp::SetHelpFile(const QString &file) { if (!designing("HelpFile", file)) Application()->SetHelpFile(file); }
+QString TqShowApp::Hint() const { return setting("Hint", Application() ? Application()->Hint() : QString()).toString(); }
+void TqShowApp::SetHint(const QString &hint) { if (!designing("Hint", hint)) Application()->SetHint(hint); }
+TColor TqShowApp::HintColor() const
+{
+    return TColor(setting("HintColor", uint((Application() ? Application()->HintColor() : clInfoBk).value)).toUInt());
+}
+void TqShowApp::SetHintColor(TColor color) { if (!designing("HintColor", uint(color.value))) Application()->SetHintColor(color); }
+int TqShowApp::HintPause() const { return setting("HintPause", Application() ? Application()->HintPause() : 500).toInt(); }
+void TqShowApp::SetHintPause(int millis) { if (!designing("HintPause", millis)) Application()->SetHintPause(millis); }
+int TqShowApp::HintHidePause() const { return setting("HintHidePause", Application() ? Application()->HintHidePause() : 2500).toInt(); }
+void TqShowApp::SetHintHidePause(int millis) { if (!designing("HintHidePause", millis)) Application()->SetHintHidePause(millis); }
+bool TqShowApp::ShowMainForm() const { return setting("ShowMainForm", Application() ? Application()->ShowMainForm() : true).toBool(); }
+void TqShowApp::SetShowMainForm(bool show) { if (!designing("ShowMainForm", show)) Application()->SetShowMainForm(show); }
+QIcon TqShowApp::Icon() const { return setting("Icon", Application() ? Application()->Icon() : QIcon()).value<QIcon>(); }
+void TqShowApp::SetIcon(const QIcon &icon) { if (!designing("Icon", icon)) Application()->SetIcon(icon); }
+bool TqShowApp::ShowHint() const { return setting("ShowHint", Application() ? Application()->ShowHint() : true).toBool(); }
+void TqShowApp::SetShowHint(bool show) { if (!designing("ShowHint", show)) Application()->SetShowHint(show); }
+QString TqShowApp::Title() const { return setting("Title", Application() ? Application()->Title() : QString()).toString(); }
+void TqShowApp::SetTitle(const QString &title) { if (!designing("Title", title)) Application()->SetTitle(title); }
 
 // The application's main form: the one set on the application object, or
 // else this component's own form.
 QWidget *TqShowApp::mainForm() const
 {
-    if (auto *form = qobject_cast<QWidget *>(appSetting("MainForm", QVariant()).value<QObject *>()))
+    if (QWidget *form = Application() ? Application()->MainForm() : nullptr)
         return form;
     return FindForm(this);
 }
@@ -164,29 +164,15 @@ void TqShowApp::Loaded()
     if (FUseCmdShow && !IsDesigning())
         showCommand(form);
     FCpuType = CpuID();
-    if (!FShowOnStatusBar && !IsDesigning()) {
-        // A tool window has no taskbar entry.
-        const bool shown = form->isVisible();
-        form->setWindowFlag(Qt::Tool, true);
-        if (shown)
-            form->show();
-    }
+    if (!FShowOnStatusBar && !IsDesigning())
+        keepOffTaskbar(form);
     FEnvironment = ::EnvironmentLines();
     if (IsDesigning())
         return;
-    // Minimising and restoring the form, passed on.
+    // The end of the session, asked of the form; a form shown in a new
+    // native window keeps off the taskbar.
     delete FHook;
-    FHook = new TFormHook(
-        form, this, {},
-        [this, form](QEvent *e) {
-            const auto *change = static_cast<QWindowStateChangeEvent *>(e);
-            const bool was = change->oldState() & Qt::WindowMinimized, is = form->isMinimized();
-            if (is && !was)
-                emit OnMinimize(this);
-            else if (was && !is)
-                emit OnRestore(this);
-        },
-        {QEvent::WindowStateChange});
+    FHook = new TFormHook(form, this, [this](QEvent *e) { return formEvent(e); });
     singleInstance(form);
 }
 
@@ -253,19 +239,44 @@ void TqShowApp::anotherInstance()
         QApplication::alert(form);
 }
 
-void TqShowApp::commitData(QSessionManager &manager)
+// The taskbar hint of the window system, or where it has none, a tool
+// window (which desktops keep off their taskbars).
+void TqShowApp::keepOffTaskbar(QWidget *form)
 {
-    QWidget *form = nullptr;
-    try {
-        form = FindForm(this);
-    } catch (const EComponentError &) {
+    if (HasWindowHints()) {
+        // A hidden form gets the hint when it is shown (see formEvent).
+        if (form->isVisible())
+            SetSkipTaskbar(form->windowHandle(), true);
         return;
     }
-    if (form != mainForm())
-        return;
-    bool doEnd = true;
-    emit OnAskEndSession(doEnd);
-    if (!doEnd)
-        manager.cancel();
-    FEnding = doEnd;
+    const bool shown = form->isVisible();
+    form->setWindowFlag(Qt::Tool, true);
+    if (shown)
+        form->show();
+}
+
+bool TqShowApp::formEvent(QEvent *event)
+{
+    if (event->type() == QEvent::Show && !FShowOnStatusBar) {
+        // Shown again, perhaps in a new native window: the hint goes on the
+        // window before it maps, and to the window manager once it has (a
+        // window manager drops the state of a window it saw hidden).
+        if (QWindow *window = FHook->Form() ? FHook->Form()->windowHandle() : nullptr) {
+            SetSkipTaskbar(window, true);
+            QTimer::singleShot(0, window, [window] { SetSkipTaskbar(window, true); });
+        }
+        return false;
+    }
+    if (event->type() == TQueryEndSessionEvent::type()) {
+        if (FindForm(this) != mainForm())
+            return false;
+        auto *query = static_cast<TQueryEndSessionEvent *>(event);
+        bool doEnd = true;
+        emit OnAskEndSession(doEnd);
+        query->DoEnd = doEnd;
+        return true;
+    }
+    if (event->type() == TEndSessionEvent::type() && FindForm(this) == mainForm())
+        emit OnEndSession();
+    return false;
 }

@@ -4,19 +4,20 @@
 // behaviour: the start-up show command, single instance with a hand-over to
 // the first instance, end of session, and the short date format.
 
+#include "host/tapplication.h"
 #include "host/tcolor.h"
 #include "host/tcomponent.h"
 
 #include <QIcon>
 #include <QPointer>
 #include <QStringList>
+#include <QVariantMap>
 
 #include <memory>
 
 class TFormHook;
 class TInstanceChannel;
 class TInstanceLock;
-class QSessionManager;
 
 // The processor class: the first digit of the processor type number
 // (386 -> 3, 586 -> 5, 8664 -> 8).
@@ -99,13 +100,16 @@ public:
     // ("-iconic", "--minimized", "--maximized" on the command line).
     bool UseCmdShow() const { return FUseCmdShow; }
     void SetUseCmdShow(bool use) { FUseCmdShow = use; }
-    // When false, the form shows no taskbar entry.
+    // When false, the form shows no taskbar entry (on X11 by the window
+    // manager's skip-taskbar hint, elsewhere as a tool window).
     bool ShowOnStatusBar() const { return FShowOnStatusBar; }
     void SetShowOnStatusBar(bool show) { FShowOnStatusBar = show; }
 
     // The application's settings, kept on the application object (the
     // component keeps no copy): title, icon, help file, hint text, colour
-    // and pauses, whether hints show, whether the main form is shown.
+    // and pauses, whether hints show, whether the main form is shown. In
+    // the form designer they are kept with the component instead, so that
+    // designing a form leaves the designer's own application alone.
     QString HelpFile() const;
     void SetHelpFile(const QString &file);
     QString Hint() const;
@@ -129,11 +133,20 @@ public:
     bool Closing() const { return FClosing; }
 
 signals:
+    // The application's events: connecting to one of these connects to the
+    // application object's own (OnDeActivate to OnDeactivate, OnExecption
+    // to OnException).
     void OnActivate(QObject *Sender);
     void OnDeActivate(QObject *Sender);
+    void OnExecption(QObject *Sender, const std::exception &E);
+    void OnHelp(int Command, qintptr Data, bool &CallHelp, bool &Result);
+    void OnHint(QObject *Sender);
     void OnIdle(QObject *Sender, bool &Done);
+    void OnMessage(QObject *Receiver, QEvent *Msg, bool &Handled);
     void OnMinimize(QObject *Sender);
     void OnRestore(QObject *Sender);
+    void OnShowHint(QString &HintStr, bool &CanShow, THintInfo &HintInfo);
+    // The component's own.
     void OnAskEndSession(bool &DoEnd);
     void OnEndSession();
     void OnSecondInstance(QObject *Sender, bool &BringFirstInstanceToFront);
@@ -141,6 +154,7 @@ signals:
 
 protected:
     void Loaded() override;
+    void connectNotify(const QMetaMethod &signal) override;
 
 private:
     void IgnoreString(const QString &) {}
@@ -151,7 +165,10 @@ private:
     void showCommand(QWidget *form);
     void singleInstance(QWidget *form);
     void anotherInstance();
-    void commitData(QSessionManager &manager);
+    bool formEvent(QEvent *event);
+    void keepOffTaskbar(QWidget *form);
+    QVariant setting(const char *name, const QVariant &value) const;
+    bool designing(const char *name, const QVariant &value);
 
     TqShortDateFormat FShortDate = sdfDontTouch;
     QString FSavedShortDate;
@@ -162,9 +179,10 @@ private:
     bool FEnabledHostInfo = false;
     int FCpuType = 0;
     bool FClosing = false;
-    bool FEnding = false;
     QString FKey;
     std::unique_ptr<TInstanceLock> FLock;
     TInstanceChannel *FChannel = nullptr;
     TFormHook *FHook = nullptr;
+    QVariantMap FDesignValues;
+    quint32 FRelayed = 0;
 };

@@ -1,0 +1,17 @@
+#pragma once
+// Window-manager hints that Qt has no call for, set on a top-level window
+// directly. On X11 they are the desktop's _NET_WM_STATE atoms; on other
+// window systems the calls answer false and change nothing.
+
+class QWindow;
+
+// Whether this window system takes the hints below.
+bool HasWindowHints();
+// Keeps a top-level window off the taskbar and the pager, or puts it back.
+// Before the window is shown the hint goes on the window itself (Qt keeps
+// it when it maps the window); once shown the window manager is asked.
+// False where the window system has no such hint.
+bool SetSkipTaskbar(QWindow *window, bool skip);
+// Whether the window's state keeps it off the taskbar, as the window manager
+// last set it (or as set before the window was shown).
+bool SkipsTaskbar(QWindow *window);
