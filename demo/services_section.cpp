@@ -11,7 +11,11 @@
 
 #include <QElapsedTimer>
 #include <QGridLayout>
+#include <QCheckBox>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
+#include <QPushButton>
 
 QGroupBox *servicesSection(QWidget *parent, TqShowApp *info)
 {
@@ -82,5 +86,42 @@ QGroupBox *servicesSection(QWidget *parent, TqShowApp *info)
     grid->addWidget(new QLabel(QStringLiteral("TqShowApp"), box), 4, 0, Qt::AlignRight);
     grid->addWidget(facts, 4, 1);
     grid->addWidget(starts, 5, 1);
+
+    // The gallery's own window: its title bar, and a size guard around the
+    // size it has when the guard comes on.
+    auto *bar = new TqTitleBar(parent);
+    bar->QueueLoaded();
+    bar->FinishLoading();
+    auto *titleButton = new QPushButton(QStringLiteral("Hide the title bar"), box);
+    QObject::connect(titleButton, &QPushButton::clicked, bar, [bar] { bar->SetTitleBar(!bar->IsShowTitleBar()); });
+    QObject::connect(bar, &TqTitleBar::OnChange, titleButton, [bar, titleButton](QObject *) {
+        titleButton->setText(bar->IsShowTitleBar() ? QStringLiteral("Hide the title bar")
+                                                   : QStringLiteral("Show the title bar (drag the window by its background)"));
+    });
+    auto *guardBox = new QCheckBox(QStringLiteral("Size guard: no smaller than now, at most 200 x 100 larger"), box);
+    auto guard = std::make_shared<QPointer<TqMinMax>>();
+    QObject::connect(guardBox, &QCheckBox::toggled, box, [parent, guard](bool on) {
+        delete guard->data();
+        if (!on)
+            return;
+        QWidget *form = parent->window();
+        const QSize now = form->size();
+        auto *g = new TqMinMax(form);
+        g->SetMaxWidth(now.width() + 200);
+        g->SetMaxHeight(now.height() + 100);
+        g->SetMaxDragWidth(now.width() + 200);
+        g->SetMaxDragHeight(now.height() + 100);
+        g->SetMinDragWidth(now.width());
+        g->SetMinDragHeight(now.height());
+        g->QueueLoaded();
+        g->FinishLoading();
+        *guard = g;
+    });
+    auto *windowRow = new QHBoxLayout;
+    windowRow->addWidget(titleButton);
+    windowRow->addWidget(guardBox);
+    windowRow->addStretch();
+    grid->addWidget(new QLabel(QStringLiteral("TqTitleBar, TqMinMax"), box), 6, 0, Qt::AlignRight);
+    grid->addLayout(windowRow, 6, 1);
     return box;
 }

@@ -1,15 +1,63 @@
 // On a real X desktop with a window manager: the application information's
-// taskbar hint.
+// taskbar hint, dragging a form without its title bar, and the size guard's
+// limits as the window manager keeps them.
 #include "platform/windowhints.h"
 #include "services/mystd.h"
+#include "services/std2.h"
 
+#include "testutil.h"
 #include "xdesktop.h"
+
+namespace {
+
+// The user's mouse, through the X server (xdotool), at screen points.
+void xdo(const QStringList &args)
+{
+    QProcess p;
+    p.start(QStringLiteral("xdotool"), args);
+    p.waitForFinished(5000);
+}
+
+void userDrag(QPoint from, QPoint to, const QString &button = QStringLiteral("1"), bool alt = false)
+{
+    xdo({"mousemove", QString::number(from.x()), QString::number(from.y())});
+    if (alt)
+        xdo({"keydown", "alt"});
+    xdo({"mousedown", button});
+    QTest::qWait(100);   // the window manager takes the pointer over
+    // In steps, as a hand moves.
+    for (int i = 1; i <= 5; ++i) {
+        const QPoint p = from + (to - from) * i / 5;
+        xdo({"mousemove", QString::number(p.x()), QString::number(p.y())});
+        QTest::qWait(30);
+    }
+    xdo({"mouseup", button});
+    if (alt)
+        xdo({"keyup", "alt"});
+}
+
+struct ShownForm
+{
+    QWidget form;
+    explicit ShownForm(QSize size = QSize(300, 200))
+    {
+        form.setGeometry(QRect(QPoint(200, 150), size));
+        form.show();
+        form.activateWindow();
+        if (!QTest::qWaitForWindowActive(&form))
+            qWarning("the form did not become active");
+    }
+};
+
+} // namespace
 
 class tst_Desktop : public QObject
 {
     Q_OBJECT
 private slots:
     void showOnStatusBarFalseKeepsTheFormOffTheTaskbar();
+    void titleBarHiddenAndTheFormDraggedByItsClientArea();
+    void sizeGuardLimitsTheUsersDragAndTheMaximisedPlace();
 };
 
 void tst_Desktop::showOnStatusBarFalseKeepsTheFormOffTheTaskbar()
@@ -32,6 +80,68 @@ void tst_Desktop::showOnStatusBarFalseKeepsTheFormOffTheTaskbar()
     // Shown, a form is put back on the taskbar through the window manager.
     QVERIFY(SetSkipTaskbar(form.windowHandle(), false));
     QTRY_VERIFY(!SkipsTaskbar(form.windowHandle()));
+}
+
+void tst_Desktop::titleBarHiddenAndTheFormDraggedByItsClientArea()
+{
+    ShownForm shown;
+    QWidget &form = shown.form;
+    auto *bar = new TqTitleBar(&form);
+    bar->QueueLoaded();
+    bar->FinishLoading();
+    QTRY_VERIFY(form.frameGeometry().height() > form.height());   // the window manager's frame is on
+    const QRect frame = form.frameGeometry();
+    const int decoration = frame.height() - form.height();
+    bar->SetTitleBar(false);
+    QTRY_COMPARE(form.frameGeometry().height(), frame.height() - decoration);
+    QCOMPARE(form.size(), QSize(300, 200));
+    QTRY_COMPARE(form.frameGeometry().topLeft(), frame.topLeft());
+    QVERIFY(form.isVisible());
+    // A press on the form drags it, through the window manager.
+    const QPoint start = form.pos();
+    userDrag(form.mapToGlobal(QPoint(150, 100)), form.mapToGlobal(QPoint(210, 140)));
+    QTRY_COMPARE(form.pos(), start + QPoint(60, 40));
+    // Not with the title bar back, nor when not allowed.
+    bar->SetTitleBar(true);
+    QTRY_COMPARE(form.frameGeometry().height(), frame.height());
+    QCOMPARE(form.size(), QSize(300, 200));
+    const QPoint titled = form.pos();
+    userDrag(form.mapToGlobal(QPoint(150, 100)), form.mapToGlobal(QPoint(210, 140)));
+    bar->SetAllowMoveWhitoutTitle(false);
+    bar->SetTitleBar(false);
+    QTRY_VERIFY(form.frameGeometry().height() < frame.height());
+    const QPoint bare = form.pos();
+    userDrag(form.mapToGlobal(QPoint(150, 100)), form.mapToGlobal(QPoint(210, 140)));
+    QTest::qWait(200);
+    QCOMPARE(form.pos(), bare);
+    Q_UNUSED(titled);
+}
+
+void tst_Desktop::sizeGuardLimitsTheUsersDragAndTheMaximisedPlace()
+{
+    ShownForm shown;
+    QWidget &form = shown.form;
+    auto *guard = new TqMinMax(&form);
+    guard->SetMaxWidth(350);   // first: the drag sizes are never below it
+    guard->SetMaxHeight(260);
+    guard->SetMaxDragWidth(400);
+    guard->SetMaxDragHeight(300);
+    guard->SetMinDragWidth(250);
+    guard->SetMaxLeft(30);
+    guard->SetMaxTop(40);
+    guard->QueueLoaded();
+    guard->FinishLoading();
+    // Alt and the right button resize a window in this window manager.
+    const QPoint corner = form.mapToGlobal(QPoint(290, 190));
+    userDrag(corner, corner + QPoint(300, 300), QStringLiteral("3"), true);
+    QTest::qWait(200);
+    QCOMPARE(form.size(), QSize(400, 300));
+    userDrag(form.mapToGlobal(QPoint(390, 290)), form.mapToGlobal(QPoint(50, 50)), QStringLiteral("3"), true);
+    QTRY_COMPARE(form.width(), 250);
+    // Maximised, it takes the guard's place and size.
+    form.showMaximized();
+    QTRY_COMPARE(form.geometry().size(), QSize(350, 260));
+    QTRY_COMPARE(form.pos(), QPoint(30, 40));
 }
 
 QC_XDESKTOP_TEST_MAIN(tst_Desktop, WindowManagerOnly)

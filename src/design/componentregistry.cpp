@@ -169,6 +169,11 @@ const std::vector<TComponentEntry> kComponents = {
      make<TqCalc>, nullptr, false,
      // Registers F to J keep an ordinary editor: TqCalc drops what is written to them.
      "NumberNum,Number,RegisterA,RegisterB,RegisterC,RegisterD,CalcResult,WhereIsLastError"},
+    {"TqMinMax", "services/std2.h", 1, 1, "Size guard",
+     "Limits the size of the form it is on while the user drags it, and its place and size "
+     "when maximised, around the taskbar if asked; the program may adjust each query. "
+     "Invisible at run time.",
+     make<TqMinMax>, nullptr, false},
     {"TqShowApp", "services/mystd.h", 1, 22, "Application information",
      "Facts about the machine and the process, the application's title, icon and hint "
      "settings, single instance with a hand-over to the first, end-of-session events and the "
@@ -176,6 +181,10 @@ const std::vector<TComponentEntry> kComponents = {
      make<TqShowApp>, nullptr, false,
      "WinDir,SystemDir,EnvironmentLines,WindowKind,WinVerMajor,WinVerMinor,WinVerBuild,WindowsString,"
      "CPUType,CPUString,ComputerName,UserName,IPHostName,IPHostAddress"},
+    {"TqTitleBar", "services/mystd.h", 1, 20, "Title bar",
+     "Hides and shows the title bar of the form it is on, keeping its client area; while the "
+     "title bar is hidden the form is dragged by its client area. Invisible at run time.",
+     make<TqTitleBar>, nullptr, false},
     {"TqcTimer", "services/std2.h", 1, 49, "Threaded timer",
      "A timer that sleeps in a worker thread of its own and raises OnTimer on the GUI "
      "thread. Invisible at run time.",

@@ -3,8 +3,13 @@
 #include "tapplication.h"
 
 #include <QList>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
+#include <optional>
 
 QWidget *FindForm(const QObject *component)
 {
@@ -27,6 +32,43 @@ TFormBorderStyle FormBorderStyle(const QWidget *form)
         return bsSizeable;
     return type == Qt::Dialog || type == Qt::Sheet ? bsDialog : bsSingle;
 }
+
+QEvent::Type THitTestEvent::type()
+{
+    static const auto t = QEvent::Type(QEvent::registerEventType());
+    return t;
+}
+
+QEvent::Type TGetMinMaxInfoEvent::type()
+{
+    static const auto t = QEvent::Type(QEvent::registerEventType());
+    return t;
+}
+
+namespace {
+
+// What the window system proposes before the hooks answer.
+TMinMaxInfo proposedLimits(const QWidget *form)
+{
+    TMinMaxInfo info;
+    const QScreen *screen = form->screen();
+    const QRect available = screen ? screen->availableGeometry() : QRect(0, 0, 640, 480);
+    const QRect frame = form->frameGeometry(), client = form->geometry();
+    const QSize decoration = frame.size() - client.size();
+    info.MaxPosition = available.topLeft();
+    info.MaxSize = available.size() - decoration;
+    info.MinTrackSize = form->minimumSizeHint().expandedTo(QSize(0, 0));
+    info.MaxTrackSize = screen ? screen->virtualSize() : available.size();
+    return info;
+}
+
+void applyLimits(QWidget *form, const TMinMaxInfo &info)
+{
+    form->setMinimumSize(info.MinTrackSize.expandedTo(QSize(0, 0)));
+    form->setMaximumSize(info.MaxTrackSize.expandedTo(info.MinTrackSize).boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)));
+}
+
+} // namespace
 
 // The hooks of one form, an event filter on it; a child of the form, so it
 // goes with it.
@@ -57,8 +99,95 @@ protected:
     }
 
 private:
+    // The window system's questions, asked of every hook in chain order;
+    // true when one of them answered.
+    bool ask(QEvent *question)
+    {
+        const QList<QPointer<TFormHook>> hooks(FHooks.begin(), FHooks.end());
+        bool answered = false;
+        for (const QPointer<TFormHook> &hook : hooks)
+            if (hook && hook->FBefore)
+                answered |= hook->FBefore(question);
+        return answered;
+    }
+
+public:
+    void query(QWidget *form)
+    {
+        TGetMinMaxInfoEvent limits;
+        limits.Info = proposedLimits(form);
+        if (!ask(&limits))
+            return;
+        applyLimits(form, limits.Info);
+        if (form->isMaximized()) {
+            FMaximised = QRect(limits.Info.MaxPosition, limits.Info.MaxSize);
+            FCorrections = 0;
+            place(form);
+        }
+    }
+
+private:
+    // The maximised place: after the window manager has maximised the form,
+    // and again (a few times at most) when it moves it on while settling
+    // its frame.
+    void place(QWidget *form)
+    {
+        QPointer<QWidget> guard = form;
+        QTimer::singleShot(0, this, [this, guard] {
+            if (!guard || !FMaximised || !guard->isMaximized())
+                return;
+            guard->move(FMaximised->topLeft());
+            guard->resize(FMaximised->size());
+        });
+    }
+    void settle(QWidget *form)
+    {
+        if (!FMaximised)
+            return;
+        if (!form->isMaximized()) {
+            FMaximised.reset();
+            return;
+        }
+        if ((form->pos() != FMaximised->topLeft() || form->size() != FMaximised->size()) && FCorrections < 3) {
+            ++FCorrections;
+            place(form);
+        }
+    }
+
+    std::optional<QRect> FMaximised;
+    int FCorrections = 0;
+
+private:
     bool filter(QObject *watched, QEvent *event)
     {
+        auto *form = static_cast<QWidget *>(watched);
+        switch (event->type()) {
+        case QEvent::MouseButtonPress: {
+            const auto *press = static_cast<QMouseEvent *>(event);
+            if (press->button() != Qt::LeftButton)
+                break;
+            THitTestEvent hit(press->position().toPoint());
+            ask(&hit);
+            if (hit.Result == THitTestEvent::HTCAPTION && form->windowHandle()) {
+                form->windowHandle()->startSystemMove();
+                return true;
+            }
+            break;
+        }
+        case QEvent::Show:
+            query(form);
+            break;
+        case QEvent::WindowStateChange:
+            if (form->isMaximized())
+                query(form);
+            break;
+        case QEvent::Move:
+        case QEvent::Resize:
+            settle(form);
+            break;
+        default:
+            break;
+        }
         // A copy: a handler may add or remove hooks.
         const QList<QPointer<TFormHook>> hooks(FHooks.begin(), FHooks.end());
         bool after = false;
@@ -73,10 +202,10 @@ private:
         if (!after)
             return false;
         // The form handles the event now, then the hooks look at it.
-        QPointer<QObject> form = watched;
+        QPointer<QObject> alive = watched;
         const bool handled = watched->event(event);
         for (const QPointer<TFormHook> &hook : hooks)
-            if (form && hook && hook->FAfter
+            if (alive && hook && hook->FAfter
                 && std::find(hook->FAfterTypes.begin(), hook->FAfterTypes.end(), event->type())
                        != hook->FAfterTypes.end())
                 hook->FAfter(event);
@@ -87,6 +216,13 @@ private:
     explicit TFormHooks(QWidget *form) : QObject(form) {}
     QList<TFormHook *> FHooks;
 };
+
+void QueryMinMaxInfo(QWidget *form)
+{
+    if (form)
+        if (TFormHooks *hooks = TFormHooks::of(form, false))
+            hooks->query(form);
+}
 
 TFormHook::TFormHook(QWidget *form, QObject *owner, Before before, After after, std::vector<QEvent::Type> afterTypes)
     : QObject(owner), FForm(form), FBefore(std::move(before)), FAfter(std::move(after)),

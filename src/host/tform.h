@@ -37,6 +37,50 @@ using namespace Forms;
 // is bsSingle; the rest is bsSizeable.
 TFormBorderStyle FormBorderStyle(const QWidget *form);
 
+// The window system's questions to a form, as events its hooks answer.
+
+// Where a press on the form lands: a hook that answers HTCAPTION makes the
+// press drag the form, as a press on its title bar would. Asked for left
+// presses that reach the form itself (its children's own presses do not).
+class THitTestEvent : public QEvent
+{
+public:
+    enum THit { HTCLIENT = 1, HTCAPTION = 2 };
+    explicit THitTestEvent(QPoint pos) : QEvent(type()), Pos(pos) {}
+    static QEvent::Type type();
+    QPoint Pos;               // in the form's coordinates
+    THit Result = HTCLIENT;
+};
+
+// The size limits of a form, in the form's own terms: positions of its
+// frame on the screen, sizes of its client area (as QWidget::move and
+// QWidget::resize take them).
+struct TMinMaxInfo
+{
+    QSize MaxSize;            // maximised size
+    QPoint MaxPosition;       // maximised position
+    QSize MinTrackSize;       // smallest size the user can drag it to
+    QSize MaxTrackSize;       // largest size the user can drag it to
+};
+
+// Asked before the form is shown, when it is maximised and when a component
+// calls QueryMinMaxInfo. The event comes with the system's proposal (the
+// screen's available area, the form's own least size, the whole desktop); a
+// hook that changes it returns true from its `before`, and then the form
+// gets the limits: the drag sizes as size constraints the window manager
+// keeps while the user drags, and, while it is maximised, the maximised
+// place and size.
+class TGetMinMaxInfoEvent : public QEvent
+{
+public:
+    TGetMinMaxInfoEvent() : QEvent(type()) {}
+    static QEvent::Type type();
+    TMinMaxInfo Info;
+};
+
+// Asks the hooks of `form` for its limits now and applies their answer.
+void QueryMinMaxInfo(QWidget *form);
+
 // One component's hook on a form. Several may hook one form: the hook made
 // last sees an event first, as subclassed window procedures chain. `before`
 // sees the event before the form does and may keep it from the form by

@@ -1,8 +1,10 @@
 #pragma once
 // The unit of the calculator and the application services: the expression
-// calculator and its functions, application information, FindForm.
+// calculator and its functions, application information, the title bar,
+// the tray icon, FindForm.
 
 #include "host/tform.h"
 #include "services/calcmath.h"
 #include "services/tqcalc.h"
 #include "services/tqshowapp.h"
+#include "services/tqtitlebar.h"
