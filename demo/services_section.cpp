@@ -11,9 +11,11 @@
 
 #include <QElapsedTimer>
 #include <QGridLayout>
+#include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 
@@ -123,5 +125,30 @@ QGroupBox *servicesSection(QWidget *parent, TqShowApp *info)
     windowRow->addStretch();
     grid->addWidget(new QLabel(QStringLiteral("TqTitleBar, TqMinMax"), box), 6, 0, Qt::AlignRight);
     grid->addLayout(windowRow, 6, 1);
+
+    // A tray icon with a menu, where the desktop has a notification area.
+    auto *tray = new TqTrayIcon(parent);
+    auto *trayMenu = new QMenu(box);
+    QAction *front = trayMenu->addAction(QStringLiteral("Bring the gallery to the front"));
+    trayMenu->setDefaultAction(front);
+    QObject::connect(front, &QAction::triggered, box, [parent] {
+        parent->window()->showNormal();
+        parent->window()->raise();
+        parent->window()->activateWindow();
+    });
+    trayMenu->addAction(QStringLiteral("Quit"), qApp, &QCoreApplication::quit);
+    tray->SetPopupMenu(trayMenu);
+    tray->SetDoDefaultMenu(true);
+    tray->SetToolTip(QStringLiteral("Quovar gallery"));
+    auto *trayState = new QLabel(box);
+    QObject::connect(tray, &TqTrayIcon::OnTrayMissing, trayState,
+                     [trayState](QObject *) { trayState->setText(QStringLiteral("no notification area on this desktop")); });
+    QObject::connect(tray, &TqTrayIcon::OnClick, trayState,
+                     [trayState](QObject *) { trayState->setText(QStringLiteral("clicked in the notification area")); });
+    tray->SetActive(true);
+    if (tray->InTray())
+        trayState->setText(QStringLiteral("in the notification area (%1): right-click for its menu").arg(tray->Protocol()));
+    grid->addWidget(new QLabel(QStringLiteral("TqTrayIcon"), box), 7, 0, Qt::AlignRight);
+    grid->addWidget(trayState, 7, 1);
     return box;
 }

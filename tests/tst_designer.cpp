@@ -82,7 +82,7 @@ QVariant otherValue(const QMetaProperty &p, const QVariant &v)
 }
 
 // The stored properties a component adds to QWidget's. Pictures are left
-// out: a form stores them as references to files or resources, which
+// out (icons too): a form stores them as references to files or resources, which
 // Designer's own resource handling keeps.
 QList<QMetaProperty> storedProperties(const QObject *o)
 {
@@ -90,7 +90,7 @@ QList<QMetaProperty> storedProperties(const QObject *o)
     const QMetaObject *m = o->metaObject();
     for (int i = QWidget::staticMetaObject.propertyCount(); i < m->propertyCount(); ++i)
         if (m->property(i).isStored() && m->property(i).isWritable() && qstrcmp(m->property(i).name(), "Name")
-            && m->property(i).metaType().id() != QMetaType::QPixmap)
+            && m->property(i).metaType().id() != QMetaType::QPixmap && m->property(i).metaType().id() != QMetaType::QIcon)
             out << m->property(i);
     return out;
 }
@@ -205,12 +205,15 @@ void tst_Designer::iconsAreTheComponentsOwnPictures()
     QVERIFY(lit);
 }
 
-// A loaded size guard that takes the window system's limits holds those,
-// not the stored ones.
+// Stored values a loaded component does not keep: a size guard that takes
+// the window system's limits holds those, and a tray icon's ShowDesigning
+// is for the designer only.
 static bool takenFromTheSystem(QWidget *runtime, const QMetaProperty &p)
 {
-    const auto *guard = qobject_cast<TqMinMax *>(runtime);
-    return guard && guard->UseDefaultSize() && (QByteArray(p.name()).startsWith("Max") || QByteArray(p.name()).startsWith("Min"));
+    const QByteArray name(p.name());
+    if (const auto *guard = qobject_cast<TqMinMax *>(runtime))
+        return guard->UseDefaultSize() && (name.startsWith("Max") || name.startsWith("Min"));
+    return qobject_cast<TqTrayIcon *>(runtime) && name == "ShowDesigning";
 }
 
 void tst_Designer::formRoundTripThroughDesigner()

@@ -1,12 +1,15 @@
 // On a real X desktop with a window manager: the application information's
 // taskbar hint, dragging a form without its title bar, and the size guard's
-// limits as the window manager keeps them.
+// limits as the window manager keeps them, and the tray icon in a real
+// notification area (trayer, XEmbed).
 #include "platform/windowhints.h"
 #include "services/mystd.h"
 #include "services/std2.h"
 
 #include "testutil.h"
 #include "xdesktop.h"
+
+#include <QSystemTrayIcon>
 
 namespace {
 
@@ -58,6 +61,7 @@ private slots:
     void showOnStatusBarFalseKeepsTheFormOffTheTaskbar();
     void titleBarHiddenAndTheFormDraggedByItsClientArea();
     void sizeGuardLimitsTheUsersDragAndTheMaximisedPlace();
+    void trayIconInARealNotificationArea();
 };
 
 void tst_Desktop::showOnStatusBarFalseKeepsTheFormOffTheTaskbar()
@@ -144,5 +148,41 @@ void tst_Desktop::sizeGuardLimitsTheUsersDragAndTheMaximisedPlace()
     QTRY_COMPARE(form.pos(), QPoint(30, 40));
 }
 
-QC_XDESKTOP_TEST_MAIN(tst_Desktop, WindowManagerOnly)
+static QWidget *trayWindow()
+{
+    for (QWidget *w : QApplication::topLevelWidgets())
+        if (w->inherits("QSystemTrayIconSys") && w->isVisible())
+            return w;
+    return nullptr;
+}
+
+void tst_Desktop::trayIconInARealNotificationArea()
+{
+    QTRY_VERIFY(QSystemTrayIcon::isSystemTrayAvailable());
+    QWidget form;
+    auto *icon = new TqTrayIcon(&form);
+    EventLog log;
+    log.watch(icon, &TqTrayIcon::OnMouseDown, "down");
+    log.watch(icon, &TqTrayIcon::OnMouseUp, "up");
+    log.watch(icon, &TqTrayIcon::OnClick, "click");
+    log.watch(icon, &TqTrayIcon::OnRightClick, "rightclick");
+    icon->SetToolTip(QStringLiteral("Bench supply"));
+    icon->SetActive(true);
+    QVERIFY(icon->InTray());
+    QCOMPARE(icon->Protocol(), QStringLiteral("xembed"));
+    QTRY_VERIFY(trayWindow() && trayWindow()->isVisible());
+    QWidget *tray = trayWindow();
+    QTRY_VERIFY(tray->mapToGlobal(QPoint(0, 0)) != QPoint(0, 0));   // embedded in the tray
+    const QPoint centre = tray->mapToGlobal(tray->rect().center());
+    xdo({"mousemove", QString::number(centre.x()), QString::number(centre.y())});
+    xdo({"click", "1"});
+    QTRY_COMPARE(log.names, (QStringList{"down", "click", "up"}));
+    xdo({"click", "3"});
+    QTRY_COMPARE(log.names, (QStringList{"down", "click", "up", "down", "rightclick", "up"}));
+    // Gone with the component.
+    delete icon;
+    QTRY_VERIFY(!trayWindow());
+}
+
+QC_XDESKTOP_TEST_MAIN(tst_Desktop, WithTray)
 #include "tst_desktop.moc"

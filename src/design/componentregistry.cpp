@@ -189,6 +189,11 @@ const std::vector<TComponentEntry> kComponents = {
      "A timer that sleeps in a worker thread of its own and raises OnTimer on the GUI "
      "thread. Invisible at run time.",
      make<TqcTimer>, nullptr, false},
+    {"TqTrayIcon", "services/mystd.h", 1, 37, "Tray icon",
+     "An icon with a tool tip in the desktop's notification area: clicks, double-clicks and "
+     "moves as events, a menu for each button, the default action on a double-click, and the "
+     "form it is on hidden if asked. Invisible at run time.",
+     make<TqTrayIcon>, nullptr, false},
     {"TqShapeBtn", "buttons/qanimate.h", 2, 27, "Shape button",
      "A push button shaped as a rectangle, a triangle, a plus, a minus, an ellipse or a shape "
      "of the application's; a press outside the shape goes to what lies beneath.",

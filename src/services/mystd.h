@@ -8,3 +8,4 @@
 #include "services/tqcalc.h"
 #include "services/tqshowapp.h"
 #include "services/tqtitlebar.h"
+#include "services/tqtrayicon.h"
