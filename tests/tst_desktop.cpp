@@ -9,6 +9,7 @@
 #include "testutil.h"
 #include "xdesktop.h"
 
+#include <QScreen>
 #include <QSystemTrayIcon>
 
 namespace {
@@ -62,6 +63,7 @@ private slots:
     void titleBarHiddenAndTheFormDraggedByItsClientArea();
     void sizeGuardLimitsTheUsersDragAndTheMaximisedPlace();
     void trayIconInARealNotificationArea();
+    void sizeGuardMakesRoomForTheTaskbar();
 };
 
 void tst_Desktop::showOnStatusBarFalseKeepsTheFormOffTheTaskbar()
@@ -182,6 +184,27 @@ void tst_Desktop::trayIconInARealNotificationArea()
     // Gone with the component.
     delete icon;
     QTRY_VERIFY(!trayWindow());
+}
+
+void tst_Desktop::sizeGuardMakesRoomForTheTaskbar()
+{
+    // The notification area here is a 24 pixel bar at the bottom of 1024 x 768.
+    QScreen *screen = QGuiApplication::primaryScreen();
+    QTRY_COMPARE(screen->availableGeometry(), QRect(0, 0, 1024, 744));
+    ShownForm shown;
+    auto *guard = new TqMinMax(&shown.form);
+    guard->SetAutoTaskBarAjust(true);
+    guard->QueueLoaded();
+    guard->FinishLoading();
+    QList<int> asked;
+    connect(guard, &TqMinMax::OnSizeChange, guard,
+            [&](QObject *, int &, int &, int &, int &, int &dragW, int &dragH, int &left, int &top) {
+                asked = {left, top, dragW, dragH};
+            });
+    QueryMinMaxInfo(&shown.form);
+    QCOMPARE(asked, (QList<int>{0, 0, 1024, 769 - 23}));
+    QCOMPARE(shown.form.maximumSize(), QSize(1024, 746));
+    QCOMPARE(guard->MaxDragHeight(), 400);   // the property stays
 }
 
 QC_XDESKTOP_TEST_MAIN(tst_Desktop, WithTray)

@@ -66,7 +66,8 @@ public:
             return fail("openbox did not start");
         if (parts == WithTray) {
             FTray.setProcessEnvironment(env);
-            FTray.start(QStringLiteral("trayer"), {"--edge", "bottom", "--widthtype", "pixel", "--width", "200"});
+            FTray.start(QStringLiteral("trayer"), {"--edge", "bottom", "--widthtype", "pixel", "--width", "200", "--height", "24",
+                                                 "--SetDockType", "true", "--SetPartialStrut", "true"});
             // Whether it took the tray selection yet, the tests ask Qt.
             if (!FTray.waitForStarted(10000))
                 return fail("trayer did not start");

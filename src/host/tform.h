@@ -37,7 +37,16 @@ using namespace Forms;
 // is bsSingle; the rest is bsSizeable.
 TFormBorderStyle FormBorderStyle(const QWidget *form);
 
-// The window system's questions to a form, as events its hooks answer.
+// The window system's messages to a form, as its hooks see them:
+//   - activation: QEvent::WindowActivate and WindowDeactivate (the
+//     application's as a whole: TApplication's OnActivate, OnDeactivate);
+//   - position and size changes: QEvent::Move and Resize, after the change;
+//   - erasing the background: QEvent::Paint before the form paints itself
+//     (a hook may paint the form's background there and let the form go on);
+//   - the end of the session: TQueryEndSessionEvent and TEndSessionEvent
+//     (host/tapplication.h), sent to the application's main form;
+//   - where a press lands and the size limits: the two events below, which
+//     the hooks answer.
 
 // Where a press on the form lands: a hook that answers HTCAPTION makes the
 // press drag the form, as a press on its title bar would. Asked for left
