@@ -40,31 +40,26 @@ public:
             p->setStandardOutputFile(QProcess::nullDevice());
             p->setStandardErrorFile(QProcess::nullDevice());
         }
-        for (int n = 40 + getpid() % 400; n < 1000; ++n) {
-            if (QFile::exists(QStringLiteral("/tmp/.X%1-lock").arg(n)))
-                continue;
-            FDisplay = QStringLiteral(":%1").arg(n);
-            FServer.start(QStringLiteral("Xvfb"), {FDisplay, "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
-            FServer.waitForStarted(10000);
-            if (waitFor([&] { return QFile::exists(QStringLiteral("/tmp/.X11-unix/X%1").arg(n)); }, FServer))
-                break;
-            FServer.kill();
-            FServer.waitForFinished();
+        // A display and a window manager that come up; on a busy machine
+        // one may hang at its start, so a few tries on fresh displays.
+        int n = 40 + getpid() % 400;
+        bool up = false;
+        for (int attempt = 0; attempt < 3 && !up; ++attempt, ++n) {
+            while (QFile::exists(QStringLiteral("/tmp/.X%1-lock").arg(n))
+                   || QFile::exists(QStringLiteral("/tmp/.X11-unix/X%1").arg(n)))
+                ++n;
+            up = startOn(n);
+            if (!up)
+                for (QProcess *p : {&FWm, &FServer}) {
+                    p->kill();
+                    p->waitForFinished(3000);
+                }
         }
-        if (FServer.state() != QProcess::Running)
-            return fail("Xvfb did not start");
-        qputenv("DISPLAY", FDisplay.toLocal8Bit());
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("HOME"), FHome.path());
-        FWm.setProcessEnvironment(env);
-        FWm.start(QStringLiteral("openbox"), {});
-        FWm.waitForStarted(10000);
-        // Up once it lists its clients (the last step of its start; a window
-        // shown before that may be left unmanaged).
-        if (!waitFor([&] { return rootHas("_NET_CLIENT_LIST"); }, FWm))
-            return fail("openbox did not start");
+        if (!up)
+            return fail("no X display with a window manager came up");
         if (parts == WithTray) {
+            QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+            env.insert(QStringLiteral("HOME"), FHome.path());
             FTray.setProcessEnvironment(env);
             FTray.start(QStringLiteral("trayer"), {"--edge", "bottom", "--widthtype", "pixel", "--width", "200", "--height", "24",
                                                  "--SetDockType", "true", "--SetPartialStrut", "true"});
@@ -76,6 +71,24 @@ public:
     }
 
 private:
+    bool startOn(int n)
+    {
+        FDisplay = QStringLiteral(":%1").arg(n);
+        FServer.start(QStringLiteral("Xvfb"), {FDisplay, "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
+        if (!FServer.waitForStarted(10000)
+            || !waitFor([&] { return QFile::exists(QStringLiteral("/tmp/.X11-unix/X%1").arg(n)); }, FServer))
+            return false;
+        qputenv("DISPLAY", FDisplay.toLocal8Bit());
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("HOME"), FHome.path());
+        FWm.setProcessEnvironment(env);
+        FWm.start(QStringLiteral("openbox"), {});
+        // Up once it lists its clients (the last step of its start; a window
+        // shown before that may be left unmanaged).
+        return FWm.waitForStarted(10000) && waitFor([&] { return rootHas("_NET_CLIENT_LIST"); }, FWm);
+    }
+
     bool fail(const char *what)
     {
         qCritical("%s", what);

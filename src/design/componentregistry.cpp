@@ -1,5 +1,6 @@
 #include "componentregistry.h"
 
+#include "backgrounds/blend.h"
 #include "buttons/qanimate.h"
 #include "displays/qseg.h"
 #include "host/tcontrol.h"
@@ -126,6 +127,25 @@ void poseSlideBar(QWidget *w)
 // Widget-box order: the pages in order, within a page the order of the
 // palette rows; the tray icon closes the second page.
 const std::vector<TComponentEntry> kComponents = {
+    {"TqBackground", "backgrounds/blend.h", 0, 8, "Form background",
+     "Gives the client area of its form a wallpaper: a tiled bitmap, a colour blend in bands or "
+     "rings, or the steel texture, painted behind the form's controls. Invisible at run time.",
+     make<TqBackground>, nullptr, false},
+    {"TqBlendPaint", "backgrounds/blend.h", 0, 9, "Blend painter",
+     "A control filled with a colour blend top to bottom, left to right or in rings, or with "
+     "the steel texture.",
+     make<TqBlendPaint>, nullptr, true},
+    {"TqNWBlendPaint", "backgrounds/blend.h", 0, 41, "Blend painter without a window",
+     "The blend painter without a window of its own; with PassMouseOn the mouse goes through it "
+     "to what lies beneath.",
+     make<TqNWBlendPaint>, nullptr, true},
+    {"TqTileMap", "backgrounds/blend.h", 0, 10, "Tile map",
+     "A control tiled with a bitmap from its top-left corner.",
+     make<TqTileMap>, nullptr, true},
+    {"TqNWTileMap", "backgrounds/blend.h", 0, 42, "Tile map without a window",
+     "The tile map without a window of its own; with PassMouseOn the mouse goes through it to "
+     "what lies beneath.",
+     make<TqNWTileMap>, nullptr, true},
     {"TqLed", "indicators/qled.h", 0, 11, "LED lamp",
      "A round or square LED in eight colours, lit or unlit, with a grey bezel, optionally "
      "on the steel texture; it can blink by itself.",

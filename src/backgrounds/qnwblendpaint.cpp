@@ -1,0 +1,5 @@
+#include "qnwblendpaint.h"
+
+TqNWBlendPaint::TqNWBlendPaint(QWidget *parent) : TBlendPainter<TGraphicControl>(parent)
+{
+}

@@ -1,0 +1,5 @@
+#include "qnwtilemap.h"
+
+TqNWTileMap::TqNWTileMap(QWidget *parent) : TTilePainter<TGraphicControl>(parent)
+{
+}

@@ -1,0 +1,7 @@
+#include "qtilemap.h"
+
+TqTileMap::TqTileMap(QWidget *parent) : TTilePainter<TCustomControl>(parent)
+{
+    SetControlStyle(ControlStyle() | csOpaque);
+    UpdateOpacity();
+}
