@@ -3,6 +3,8 @@
 
 #include "sections.h"
 
+#include "backgrounds/blend.h"
+
 #include "services/mystd.h"
 
 #include <QApplication>
@@ -39,9 +41,18 @@ int main(int argc, char **argv)
     layout->addWidget(instrumentsSection(&window), 0, 1, 2, 1);
     layout->addWidget(controlsSection(&window), 2, 0, 1, 2);
     layout->addWidget(buttonsSection(&window), 3, 0, 1, 2);
-    layout->setRowStretch(4, 1);
+    layout->addWidget(panelsSection(&window), 4, 0, 1, 2);
+    layout->setRowStretch(5, 1);
+    // The gallery's own wallpaper: a light blend behind every section.
+    auto *wallpaper = new TqBackground(&window);
+    wallpaper->SetBackType(TqBackground::btBlend);
+    wallpaper->SetColor(0x00F4F0EC);
+    wallpaper->SetEndColor(0x00D8CCC0);
+    wallpaper->SetBands(64);
     info->QueueLoaded();
     info->FinishLoading();
+    wallpaper->QueueLoaded();
+    wallpaper->FinishLoading();
     if (info->Closing())
         return app.exec();   // handed over: ends at once
     window.show();

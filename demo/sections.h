@@ -26,5 +26,6 @@ QGroupBox *displaysSection(QWidget *parent);
 QGroupBox *instrumentsSection(QWidget *parent);
 QGroupBox *controlsSection(QWidget *parent);
 QGroupBox *buttonsSection(QWidget *parent);
+QGroupBox *panelsSection(QWidget *parent);
 class TqShowApp;
 QGroupBox *servicesSection(QWidget *parent, TqShowApp *info);

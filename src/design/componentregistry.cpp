@@ -7,6 +7,7 @@
 #include "indicators/qgauge.h"
 #include "indicators/qled.h"
 #include "instruments/qpanel.h"
+#include "layout/qsplit.h"
 #include "services/mystd.h"
 #include "slidebar/slidebar.h"
 #include "services/std2.h"
@@ -175,10 +176,22 @@ const std::vector<TComponentEntry> kComponents = {
      "A value between Min and Max as a bar filled from the left, continuous with a formatted "
      "caption or as a row of LED-like blocks, plain or cut from a tiled picture.",
      make<TqGauge>, poseGauge, true},
+    {"TqMovePanel", "services/mystd.h", 0, 19, "Move panel",
+     "A panel the user drags inside its parent; it can stick to an edge by placement or by "
+     "alignment, and OnBeforeUpdate may change or refuse each move.",
+     make<TqMovePanel>, nullptr, true},
     {"TqScope", "instruments/qpanel.h", 0, 32, "Trace display",
      "Two channels of pushed samples drawn as scrolling beams over a grid, the newest at "
      "the right edge.",
      make<TqScope>, poseScope, true},
+    {"TqVerSplit", "layout/qsplit.h", 0, 23, "Splitter panel, vertical bar",
+     "A panel divided by a bar that moves left and right; the controls on either side move "
+     "with the bar. WhereSplit is the bar's left edge.",
+     make<TqVerSplit>, nullptr, true},
+    {"TqHorSplit", "layout/qsplit.h", 0, 24, "Splitter panel, horizontal bar",
+     "A panel divided by a bar that moves up and down; the controls above and below it move "
+     "with the bar. WhereSplit is the bar's top edge.",
+     make<TqHorSplit>, nullptr, true},
     {"TqPanelMeter", "instruments/qpanel.h", 0, 33, "Needle meter",
      "An analogue panel meter: round scale with a needle, or an edgewise scale with a "
      "pointer, with an alert zone that raises events when the value crosses it.",

@@ -128,8 +128,9 @@ public:
 
 private:
     // The maximised place: after the window manager has maximised the form,
-    // and again (a few times at most) when it moves it on while settling
-    // its frame.
+    // and again (a few times at most) while it settles its frame: when it
+    // moves the form on, and a little later, since a new frame need not
+    // come with a move.
     void place(QWidget *form)
     {
         QPointer<QWidget> guard = form;
@@ -138,6 +139,12 @@ private:
                 return;
             guard->move(FMaximised->topLeft());
             guard->resize(FMaximised->size());
+            // A busy window manager may change the frame later still.
+            for (int delay : {50, 200, 500, 1000})
+                QTimer::singleShot(delay, this, [this, guard] {
+                    if (guard)
+                        settle(guard);
+                });
         });
     }
     void settle(QWidget *form)
@@ -148,7 +155,7 @@ private:
             FMaximised.reset();
             return;
         }
-        if ((form->pos() != FMaximised->topLeft() || form->size() != FMaximised->size()) && FCorrections < 3) {
+        if ((form->pos() != FMaximised->topLeft() || form->size() != FMaximised->size()) && FCorrections < 8) {
             ++FCorrections;
             place(form);
         }

@@ -1,5 +1,7 @@
 #include "qgauge.h"
 
+#include "host/tpanel.h"
+
 #include "host/tformat.h"
 
 #include <algorithm>
@@ -199,18 +201,8 @@ void TqGauge::Paint(TCanvas &canvas)
     const int W = width(), H = height();
     if (FGlyph.width() > 0 && (FPrepared.Width() != W || FPrepared.Height() != H))
         DoTheBitmap();
-    const auto bevel = [&](TRect &r, TPanelBevel kind) {
-        if (kind == bvLowered)
-            Frame3D(canvas, r, clBtnShadow, clBtnHighlight, FBevelWidth);
-        else
-            Frame3D(canvas, r, clBtnHighlight, clBtnShadow, FBevelWidth);
-    };
     TRect r = Rect(0, 0, W, H);
-    if (FBevelOuter != bvNone)
-        bevel(r, FBevelOuter);
-    Frame3D(canvas, r, Color(), Color(), FFrameWidth);
-    if (FBevelInner != bvNone)
-        bevel(r, FBevelInner);
+    PaintPanelBevels(canvas, r, FBevelOuter, FBevelInner, FBevelWidth, FFrameWidth, Color());
     const TGaugeLayout l = layout();
     // The margin, a ring of background at a time.
     const int d = l.bar.Left - FMargin;

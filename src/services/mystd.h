@@ -1,9 +1,10 @@
 #pragma once
 // The unit of the calculator and the application services: the expression
 // calculator and its functions, application information, the title bar,
-// the tray icon, FindForm.
+// the tray icon, the move panel, FindForm.
 
 #include "host/tform.h"
+#include "layout/qmovepanel.h"
 #include "services/calcmath.h"
 #include "services/tqcalc.h"
 #include "services/tqshowapp.h"

@@ -1,0 +1,128 @@
+#include "sections.h"
+
+#include "backgrounds/blend.h"
+#include "displays/qseg.h"
+#include "indicators/qled.h"
+#include "layout/qsplit.h"
+#include "services/mystd.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QSlider>
+
+namespace {
+
+// A small tile: a rivet on brushed metal.
+QPixmap rivetTile()
+{
+    QImage tile(24, 24, QImage::Format_RGB32);
+    for (int y = 0; y < 24; ++y)
+        for (int x = 0; x < 24; ++x) {
+            const int g = 150 + ((x * 7 + y * 3) % 11);
+            tile.setPixel(x, y, qRgb(g, g, g + 8));
+        }
+    QPainter p(&tile);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QColor(90, 90, 100));
+    p.setBrush(QColor(200, 200, 210));
+    p.drawEllipse(QRectF(8.5, 8.5, 7, 7));
+    return QPixmap::fromImage(tile);
+}
+
+template <class Blend>
+Blend *blend(QWidget *parent, gradType type, TColor from, TColor to, int w = 90, int h = 50)
+{
+    auto *b = new Blend(parent);
+    b->SetBounds(0, 0, w, h);
+    b->SetGrad(type);
+    b->SetColor(from);
+    b->SetEndColor(to);
+    b->setFixedSize(w, h);
+    return b;
+}
+
+} // namespace
+
+QGroupBox *panelsSection(QWidget *parent)
+{
+    auto *box = new QGroupBox(QStringLiteral("Backgrounds and panels"), parent);
+    SectionRows row(box);
+
+    auto *painters = new QWidget(box);
+    auto *line = new QHBoxLayout(painters);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(blend<TqBlendPaint>(painters, gVert, 0x00402000, 0x00FFC080));
+    line->addWidget(blend<TqBlendPaint>(painters, gHorz, 0x00000080, 0x0000FFFF));
+    line->addWidget(blend<TqBlendPaint>(painters, gCenter, 0x00004000, 0x0080FF80));
+    auto *steel = blend<TqBlendPaint>(painters, gVert, 0, 0);
+    steel->SetSteel(true);
+    line->addWidget(steel);
+    auto *tiles = new TqTileMap(painters);
+    tiles->SetBitmap(rivetTile());
+    tiles->setFixedSize(90, 50);
+    line->addWidget(tiles);
+    // A non-windowed blend over a button: clicks go through it.
+    auto *under = new QPushButton(QStringLiteral("clicks: 0"), painters);
+    under->setFixedSize(120, 50);
+    auto *glass = blend<TqNWBlendPaint>(under, gHorz, 0x00FFFFFF, 0x00C0C0C0, 40, 50);
+    glass->SetPassMouseOn(true);
+    glass->move(80, 0);
+    QObject::connect(under, &QPushButton::clicked, under, [under, n = 0]() mutable {
+        under->setText(QStringLiteral("clicks: %1").arg(++n));
+    });
+    line->addWidget(under);
+    line->addStretch();
+    row(QStringLiteral("TqBlendPaint in three directions and steel, TqTileMap, TqNWBlendPaint (click through)"), painters);
+
+    // A splitter between two panels full of controls.
+    auto *split = new TqVerSplit(box);
+    split->SetBounds(0, 0, 420, 90);
+    split->setFixedSize(420, 90);
+    split->SetNewLook(true);
+    split->SetWhereSplit(200);
+    auto *left = new TqBlendPaint(split);
+    left->SetColor(0x00202020);
+    left->SetEndColor(0x00505050);
+    split->SetLeftTop(left);
+    auto *clock = new TqSegmentClock(left);
+    clock->move(8, 8);
+    auto *right = new TqBlendPaint(split);
+    right->SetSteel(true);
+    split->SetRightBottom(right);
+    for (int i = 0; i < 4; ++i) {
+        auto *led = new TqLed(right);
+        led->move(10 + 30 * i, 10);
+        led->WriteLedColor(TqLed::LedColorType(i + 1));
+        led->writeLedOn(true);
+    }
+    // Each side fills its part as the bar moves.
+    QObject::connect(split, &TqVerSplit::OnSplitChange, split, [split, left, right](QObject *) {
+        split->SetLeftTop(left);
+        split->SetRightBottom(right);
+    });
+    row(QStringLiteral("TqVerSplit: drag the bar"), split);
+
+    // A move panel in an area: drag it; it sticks to the edge chosen.
+    auto *area = new TqBlendPaint(box);
+    area->SetColor(0x00F0E0D0);
+    area->SetEndColor(0x00C0A080);
+    area->setFixedSize(420, 90);
+    auto *mover = new TqMovePanel(area);
+    mover->SetBounds(20, 20, 120, 40);
+    mover->SetCaption(QStringLiteral("drag me"));
+    auto *stick = new QCheckBox(QStringLiteral("stick to the right (aligned)"), box);
+    QObject::connect(stick, &QCheckBox::toggled, mover, [mover](bool on) {
+        mover->SetStickOldStyle(!on);
+        mover->SetStickWhere(on ? TqMovePanel::stRight : TqMovePanel::stNone);
+    });
+    auto *moveRow = new QWidget(box);
+    auto *moveLine = new QHBoxLayout(moveRow);
+    moveLine->setContentsMargins(0, 0, 0, 0);
+    moveLine->addWidget(area);
+    moveLine->addWidget(stick);
+    row(QStringLiteral("TqMovePanel"), moveRow);
+    return box;
+}
