@@ -4,7 +4,9 @@
 // read back by QUiLoader; the component editor's verbs and the help.
 #include "design/qcinit01.h"
 #include "design/qs_vcl32.h"
+#include "backgrounds/blend.h"
 #include "buttons/qanimate.h"
+#include "design/qbitmapeditor.h"
 #include "design/qgaugeeditor.h"
 #include "design/qshapebtneditor.h"
 #include "displays/qseg.h"
@@ -25,6 +27,7 @@
 #include "ui_panel.h"
 
 #include <QBuffer>
+#include <QTemporaryDir>
 #include <QComboBox>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -135,6 +138,7 @@ private slots:
     void formRoundTripThroughDesigner();
     void colourPropertiesAreColoursAndKeepSystemColours();
     void systemColoursAreChosenInTheColoursDialog();
+    void bitmapFromTheBitmapEditor();
     void calculatorResultsAreReadOnly();
     void gaugeCaptionStyleFromItsEditor();
     void shapeFromTheShapeEditor();
@@ -388,6 +392,47 @@ void tst_Designer::shapeFromTheShapeEditor()
     QCOMPARE(button->Shape(), TqShapeBtn::sbPlus);
     QCOMPARE(button->GetAccelkey(), QChar(u'+'));
     QVERIFY(d->form->contents().contains(QStringLiteral("sbPlus")));
+}
+
+void tst_Designer::bitmapFromTheBitmapEditor()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("rivet.png"));
+    QImage tile(8, 6, QImage::Format_RGB32);
+    tile.fill(Qt::red);
+    QVERIFY(tile.save(file));
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqTileMap\" name=\"map\"/></widget></ui>")));
+    auto *map = d->form->mainContainer()->findChild<TqTileMap *>("map");
+    QAction *edit = d->extension<QDesignerTaskMenuExtension>(map)->preferredEditAction();
+    QVERIFY(edit);
+    const auto open = [&] {
+        edit->trigger();
+        auto *editor = map->window()->findChild<TqBitmapEditor *>();
+        return editor;
+    };
+    TqBitmapEditor *editor = open();
+    QVERIFY(editor);
+    QVERIFY(editor->Picture().isNull());
+    QVERIFY(!editor->Load(dir.filePath(QStringLiteral("missing.png"))));   // not a picture: nothing changes
+    QVERIFY(editor->Load(file));
+    editor->accept();
+    QCOMPARE(map->Bitmap().size(), QSize(8, 6));
+    QVERIFY(d->form->contents().contains(QStringLiteral("rivet.png</pixmap>")));   // stored as its file
+    // Opened again it shows the picture and its file; Clear empties it.
+    QTRY_VERIFY(!map->window()->findChild<TqBitmapEditor *>());
+    editor = open();
+    QCOMPARE(editor->FileName(), file);
+    QCOMPARE(editor->Picture().size(), QSize(8, 6));
+    editor->Clear();
+    editor->accept();
+    QVERIFY(map->Bitmap().isNull());
+    QVERIFY(!d->form->contents().contains(QStringLiteral("rivet.png")));
+    // Designer makes one change of the two, and undoes it.
+    QVERIFY(d->form->commandHistory()->canUndo());
+    d->form->commandHistory()->undo();
+    QVERIFY(map->Bitmap().isNull());
 }
 
 void tst_Designer::calculatorResultsAreReadOnly()

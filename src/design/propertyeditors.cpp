@@ -1,9 +1,14 @@
 #include "propertyeditors.h"
 
+#include "qbitmapeditor.h"
 #include "qgaugeeditor.h"
 #include "qshapebtneditor.h"
 
 #include <QWidget>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
 
 namespace {
 
@@ -21,9 +26,26 @@ QDialog *createShapeEditor(QWidget *component, QWidget *parent)
 
 QVariant shapeEditorValue(QDialog *dialog) { return static_cast<TqShapeBtnEditor *>(dialog)->Shape(); }
 
+// The picture now and, where the form has one, the file it came from.
+QDialog *bitmapEditor(QWidget *component, const char *property, QWidget *parent)
+{
+    QString file;
+    if (auto *form = QDesignerFormWindowInterface::findFormWindow(component))
+        if (auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(form->core()->extensionManager(), component))
+            file = DesignerPixmapFile(sheet->property(sheet->indexOf(QLatin1String(property))));
+    return new TqBitmapEditor(component->property(property).value<QPixmap>(), file, parent);
+}
+
+QDialog *createBitMapEditor(QWidget *component, QWidget *parent) { return bitmapEditor(component, "BitMap", parent); }
+QDialog *createBitmapEditor(QWidget *component, QWidget *parent) { return bitmapEditor(component, "Bitmap", parent); }
+QVariant bitmapEditorValue(QDialog *dialog) { return static_cast<TqBitmapEditor *>(dialog)->FileName(); }
+
 const std::vector<TPropertyEditorEntry> kEditors = {
     {"TqShapeBtn", "Shape", "Shape...", createShapeEditor, shapeEditorValue},
     {"TqGauge", "CaptionStyle", "Caption Style...", createGaugeEditor, gaugeEditorValue},
+    {"TqBackground", "BitMap", "Bitmap...", createBitMapEditor, bitmapEditorValue},
+    {"TqTileMap", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
+    {"TqNWTileMap", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
 };
 
 } // namespace

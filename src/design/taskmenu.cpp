@@ -1,5 +1,7 @@
 #include "taskmenu.h"
 
+#include "qbitmapeditor.h"
+
 #include "colorsdialog.h"
 #include "componentregistry.h"
 #include "propertyeditors.h"
@@ -77,11 +79,19 @@ void TTaskMenu::editColours()
 
 // Through the form window's cursor: one undoable change, marked as changed
 // so the form stores it.
-void TTaskMenu::writeBack(const QString &property, const QVariant &value)
+void TTaskMenu::writeBack(const QString &property, const QVariant &given)
 {
     if (!FComponent)
         return;
     QDesignerFormWindowInterface *form = QDesignerFormWindowInterface::findFormWindow(FComponent);
+    // A picture comes as its file: the form keeps the reference.
+    QVariant value = given;
+    const QMetaObject *meta = FComponent->metaObject();
+    const int index = meta->indexOfProperty(property.toLatin1().constData());
+    if (index >= 0 && meta->property(index).metaType() == QMetaType::fromType<QPixmap>()
+        && given.metaType() == QMetaType::fromType<QString>())
+        value = form ? DesignerPixmapValue(given.toString())
+                     : QVariant::fromValue(given.toString().isEmpty() ? QPixmap() : QPixmap(given.toString()));
     if (form)
         form->cursor()->setWidgetProperty(FComponent, property,
                                           value.metaType() == QMetaType::fromType<TColor>()
