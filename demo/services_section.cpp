@@ -150,5 +150,26 @@ QGroupBox *servicesSection(QWidget *parent, TqShowApp *info)
         trayState->setText(QStringLiteral("in the notification area (%1): right-click for its menu").arg(tray->Protocol()));
     grid->addWidget(new QLabel(QStringLiteral("TqTrayIcon"), box), 7, 0, Qt::AlignRight);
     grid->addWidget(trayState, 7, 1);
+
+    // A small program run with the interface alive meanwhile.
+    auto *runner = new TqcRunProg(box);
+    runner->SetCmdLine(QStringLiteral("sh -c 'sleep 1; exit 42'"));
+    auto *runButton = new QPushButton(QStringLiteral("Run: sh -c 'sleep 1; exit 42'"), box);
+    auto *runState = new QLabel(box);
+    QObject::connect(runButton, &QPushButton::clicked, runner, [runner] { runner->Run(); });
+    QObject::connect(runner, &TqcRunProg::OnBeforeWait, runState,
+                     [runState](QObject *) { runState->setText(QStringLiteral("running...")); });
+    QObject::connect(runner, &TqcRunProg::OnFinish, runState, [runner, runState](QObject *) {
+        runState->setText(QStringLiteral("return code %1").arg(runner->ReturnCode()));
+    });
+    QObject::connect(runner, &TqcRunProg::OnError, runState, [runState](QObject *, TqcRunProg::TqcRunError e, int code) {
+        runState->setText(QStringLiteral("could not start (%1, errno %2)").arg(int(e)).arg(code));
+    });
+    auto *runRow = new QHBoxLayout;
+    runRow->addWidget(runButton);
+    runRow->addWidget(runState);
+    runRow->addStretch();
+    grid->addWidget(new QLabel(QStringLiteral("TqcRunProg"), box), 8, 0, Qt::AlignRight);
+    grid->addLayout(runRow, 8, 1);
     return box;
 }

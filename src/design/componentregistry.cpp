@@ -222,6 +222,11 @@ const std::vector<TComponentEntry> kComponents = {
      "A timer that sleeps in a worker thread of its own and raises OnTimer on the GUI "
      "thread. Invisible at run time.",
      make<TqcTimer>, nullptr, false},
+    {"TqcRunProg", "services/std2.h", 1, 50, "Program runner",
+     "Starts another program from a command line (split as a shell would, without a shell) and "
+     "waits for it while the interface goes on, or not at all; failures come as result codes. "
+     "Invisible at run time.",
+     make<TqcRunProg>, nullptr, false},
     {"TqTrayIcon", "services/mystd.h", 1, 37, "Tray icon",
      "An icon with a tool tip in the desktop's notification area: clicks, double-clicks and "
      "moves as events, a menu for each button, the default action on a double-click, and the "

@@ -2,6 +2,7 @@
 
 #include "tapplication.h"
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QMouseEvent>
 #include <QScreen>
@@ -122,6 +123,7 @@ public:
         if (form->isMaximized()) {
             FMaximised = QRect(limits.Info.MaxPosition, limits.Info.MaxSize);
             FCorrections = 0;
+            FPlacedAt.start();
             place(form);
         }
     }
@@ -135,7 +137,7 @@ private:
     {
         QPointer<QWidget> guard = form;
         QTimer::singleShot(0, this, [this, guard] {
-            if (!guard || !FMaximised || !guard->isMaximized())
+            if (!guard || !FMaximised)
                 return;
             guard->move(FMaximised->topLeft());
             guard->resize(FMaximised->size());
@@ -147,11 +149,15 @@ private:
                 });
         });
     }
+    // Some window managers take a placed maximised window for a restored
+    // one and give it its frame back: it stays where it was placed, frame
+    // and all, for as long as the placing goes on.
     void settle(QWidget *form)
     {
         if (!FMaximised)
             return;
-        if (!form->isMaximized()) {
+        const bool placing = FPlacedAt.isValid() && FPlacedAt.elapsed() < 2000;
+        if (!form->isMaximized() && !placing) {
             FMaximised.reset();
             return;
         }
@@ -161,6 +167,7 @@ private:
         }
     }
 
+    QElapsedTimer FPlacedAt;
     std::optional<QRect> FMaximised;
     int FCorrections = 0;
 

@@ -1,0 +1,149 @@
+// The program runner with real programs: command lines split without a
+// shell, start failures mapped to result codes, the events in order for
+// each way of waiting, exit codes, the caller's events during a soft wait,
+// no open files handed on, and a soft wait cut short by the application's
+// end.
+#include "services/std2.h"
+
+#include "testutil.h"
+
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+struct Runner
+{
+    TqcRunProg run;
+    EventLog log;
+    QList<int> errors;
+    Runner()
+    {
+        log.watch(&run, &TqcRunProg::OnBeforeRun, "run");
+        log.watch(&run, &TqcRunProg::OnBeforeWait, "wait");
+        log.watch(&run, &TqcRunProg::OnFinish, "finish");
+        log.watch(&run, &TqcRunProg::OnError, "error");
+        QObject::connect(&run, &TqcRunProg::OnError, &run,
+                         [this](QObject *, TqcRunProg::TqcRunError, int code) { errors << code; });
+    }
+};
+
+} // namespace
+
+class tst_TqcRunProg : public QObject
+{
+    Q_OBJECT
+private slots:
+    void commandLinesSplitWithoutAShell();
+    void startFailures();
+    void waitingAndExitCodes();
+    void noOpenFilesHandedOn();
+    void softWaitEndsWithTheApplication();
+};
+
+void tst_TqcRunProg::commandLinesSplitWithoutAShell()
+{
+    QStringList words;
+    QVERIFY(SplitCommandLine(QStringLiteral("prog \"a b\" 'c \"d' e\\ f \"x\\\"y\\\\z\"  last"), words));
+    QCOMPARE(words, (QStringList{"prog", "a b", "c \"d", "e f", "x\"y\\z", "last"}));
+    QVERIFY(!SplitCommandLine(QStringLiteral("prog 'open"), words));
+    // Shell syntax is only words: nothing but the program runs.
+    QTemporaryDir dir;
+    const QString mark = dir.filePath(QStringLiteral("made"));
+    Runner r;
+    r.run.SetCmdLine(QStringLiteral("true; touch ") + mark);
+    r.run.Run();
+    QCOMPARE(r.run.LastResultCode(), TqcRunProg::qre_FileNotFound);   // "true;" is no program
+    r.run.SetCmdLine(QStringLiteral("echo $(touch %1)").arg(mark));
+    r.run.Run();
+    QCOMPARE(r.run.LastResultCode(), TqcRunProg::qre_OK);
+    QVERIFY(!QFile::exists(mark));
+}
+
+void tst_TqcRunProg::startFailures()
+{
+    QTemporaryDir dir;
+    const QString plain = dir.filePath(QStringLiteral("notes.txt"));
+    QFile(plain).open(QIODevice::WriteOnly);   // not executable
+    struct Case
+    {
+        QString line;
+        TqcRunProg::TqcRunError result;
+        int error;
+    } cases[] = {
+        {QStringLiteral("no-such-program-here --help"), TqcRunProg::qre_FileNotFound, ENOENT},
+        {dir.filePath(QStringLiteral("missing/folder/prog")), TqcRunProg::qre_PathNotFound, ENOENT},
+        {plain, TqcRunProg::qre_networkerror, EACCES},
+        {QStringLiteral("'unclosed"), TqcRunProg::qre_UnknownError, EINVAL},
+    };
+    for (const Case &c : cases) {
+        Runner r;
+        r.run.SetCmdLine(c.line);
+        r.run.Run();
+        QCOMPARE(r.run.LastResultCode(), c.result);
+        QCOMPARE(r.run.SavedErrorCode(), c.error);
+        QCOMPARE(r.errors, QList<int>{c.error});
+        QCOMPARE(r.log.names, (QStringList{"run", "error"}));
+    }
+}
+
+void tst_TqcRunProg::waitingAndExitCodes()
+{
+    Runner r;
+    r.run.SetCmdLine(QStringLiteral("sh -c 'exit 255'"));
+    r.run.Run();   // ended with 255: started all the same
+    QCOMPARE(r.run.LastResultCode(), TqcRunProg::qre_OK);
+    QCOMPARE(r.run.ReturnCode(), 255);
+    QCOMPARE(r.log.names, (QStringList{"run", "wait", "finish"}));
+    // The caller's events go on during a soft wait.
+    int ticks = 0;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+    timer.start(10);
+    r.run.SetCmdLine(QStringLiteral("sh -c 'sleep 0.3; exit 7'"));
+    r.run.Run();
+    QCOMPARE(r.run.ReturnCode(), 7);
+    QVERIFY(ticks > 0);
+    // A hard wait blocks and leaves the return code alone.
+    r.run.SetHardWait(true);
+    ticks = 0;
+    r.run.SetCmdLine(QStringLiteral("sh -c 'sleep 0.1; exit 9'"));
+    r.run.Run();
+    QCOMPARE(r.run.ReturnCode(), 0);
+    QCOMPARE(ticks, 0);
+    // Without waiting: no wait events.
+    r.log.names.clear();
+    r.run.SetWait(false);
+    r.run.SetCmdLine(QStringLiteral("sh -c 'exit 3'"));
+    r.run.Run();
+    QCOMPARE(r.log.names, QStringList{"run"});
+    QCOMPARE(r.run.ReturnCode(), 0);
+}
+
+void tst_TqcRunProg::noOpenFilesHandedOn()
+{
+    const int fd = ::open("/dev/null", O_RDONLY);   // inheritable
+    QVERIFY(fd > 2);
+    Runner r;
+    r.run.SetCmdLine(QStringLiteral("sh -c '[ -e /proc/self/fd/%1 ] && exit 1; exit 0'").arg(fd));
+    r.run.Run();
+    ::close(fd);
+    QCOMPARE(r.run.ReturnCode(), 0);
+}
+
+// Last: the application's end stays told for the rest of the run.
+void tst_TqcRunProg::softWaitEndsWithTheApplication()
+{
+    Runner r;
+    QTimer::singleShot(100, [] { QCoreApplication::exit(0); });
+    r.run.SetCmdLine(QStringLiteral("sleep 2"));
+    r.run.Run();
+    QCOMPARE(r.run.ReturnCode(), 259);
+    QCOMPARE(r.log.names, (QStringList{"run", "wait", "finish"}));
+}
+
+QTEST_MAIN(tst_TqcRunProg)
+#include "tst_tqcrunprog.moc"
