@@ -1,5 +1,6 @@
 #include "sections.h"
 
+#include "displays/qseg.h"
 #include "services/mystd.h"
 #include "services/std2.h"
 #include "host/tformat.h"
@@ -171,5 +172,32 @@ QGroupBox *servicesSection(QWidget *parent, TqShowApp *info)
     runRow->addStretch();
     grid->addWidget(new QLabel(QStringLiteral("TqcRunProg"), box), 8, 0, Qt::AlignRight);
     grid->addLayout(runRow, 8, 1);
+
+    // A canvas that scribbles over a segment label until the label repaints.
+    auto *label = new TqSegmentLabel(box);
+    label->SetCaption(QStringLiteral("SCRIBBLE"));
+    auto *canvas = new TqCompCanvas(box);
+    canvas->SetControl(label);
+    auto *scribble = new QPushButton(QStringLiteral("Scribble"), box);
+    QObject::connect(scribble, &QPushButton::clicked, canvas, [canvas, label] {
+        canvas->StartPaint();
+        TCanvas *c = canvas->Canvas();
+        c->Pen.SetColor(clYellow);
+        c->Pen.SetWidth(3);
+        for (int i = 0; i < 6; ++i) {
+            c->MoveTo(i * label->width() / 6, label->height() - 4);
+            c->LineTo((i + 1) * label->width() / 6, 4);
+        }
+        canvas->EndPaint();
+    });
+    auto *repaint = new QPushButton(QStringLiteral("Repaint the label"), box);
+    QObject::connect(repaint, &QPushButton::clicked, label, [label] { label->Invalidate(); });
+    auto *canvasRow = new QHBoxLayout;
+    canvasRow->addWidget(label);
+    canvasRow->addWidget(scribble);
+    canvasRow->addWidget(repaint);
+    canvasRow->addStretch();
+    grid->addWidget(new QLabel(QStringLiteral("TqCompCanvas"), box), 9, 0, Qt::AlignRight);
+    grid->addLayout(canvasRow, 9, 1);
     return box;
 }

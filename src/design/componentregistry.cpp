@@ -218,6 +218,10 @@ const std::vector<TComponentEntry> kComponents = {
      "Hides and shows the title bar of the form it is on, keeping its client area; while the "
      "title bar is hidden the form is dragged by its client area. Invisible at run time.",
      make<TqTitleBar>, nullptr, false},
+    {"TqCompCanvas", "services/std2.h", 1, 44, "Component canvas",
+     "Lends the program a canvas over another control between StartPaint and EndPaint; what is "
+     "drawn stays until the control paints itself again. Invisible at run time.",
+     make<TqCompCanvas>, nullptr, false},
     {"TqcTimer", "services/std2.h", 1, 49, "Threaded timer",
      "A timer that sleeps in a worker thread of its own and raises OnTimer on the GUI "
      "thread. Invisible at run time.",

@@ -1,0 +1,98 @@
+// The component canvas: its three misuses with their messages, a drawing
+// over the control that shows at once and goes at the control's next own
+// paint, a fresh canvas each session, the control found by name and a
+// control that goes away while drawing.
+#include "services/std2.h"
+
+#include "testutil.h"
+
+namespace {
+
+struct Panel
+{
+    QWidget form;
+    QWidget *control = new QWidget(&form);
+    Panel()
+    {
+        form.resize(100, 60);
+        control->setObjectName(QStringLiteral("dial"));
+        control->setGeometry(10, 10, 50, 40);
+        control->setAutoFillBackground(true);
+        QPalette p = control->palette();
+        p.setColor(QPalette::Window, Qt::white);
+        control->setPalette(p);
+        form.show();
+        if (!QTest::qWaitForWindowExposed(&form))
+            qWarning("the form was not shown");
+    }
+    QRgb at(int x, int y) { return form.grab().toImage().pixel(x, y); }
+};
+
+QByteArray messageOf(const std::function<void()> &call)
+{
+    try {
+        call();
+    } catch (const EqCompCanvasException &e) {
+        return e.what();
+    }
+    return QByteArray();
+}
+
+} // namespace
+
+class tst_TqCompCanvas : public QObject
+{
+    Q_OBJECT
+private slots:
+    void misuses();
+    void drawingShowsUntilTheControlPaints();
+    void controlByNameAndGone();
+};
+
+void tst_TqCompCanvas::misuses()
+{
+    Panel panel;
+    TqCompCanvas canvas(&panel.form);
+    QCOMPARE(messageOf([&] { canvas.EndPaint(); }), QByteArray("We are not drawing"));
+    QCOMPARE(messageOf([&] { canvas.StartPaint(); }), QByteArray("No component to draw on"));
+    canvas.SetControl(panel.control);
+    canvas.StartPaint();
+    QCOMPARE(messageOf([&] { canvas.StartPaint(); }), QByteArray("We are allready drawing"));
+    QVERIFY(canvas.Drawing());   // the misuse changed nothing
+    canvas.EndPaint();
+}
+
+void tst_TqCompCanvas::drawingShowsUntilTheControlPaints()
+{
+    Panel panel;
+    TqCompCanvas canvas(&panel.form);
+    canvas.SetControl(panel.control);
+    canvas.StartPaint();
+    TCanvas *c = canvas.Canvas();
+    c->Brush.SetColor(clRed);
+    c->FillRect(Rect(0, 0, 10, 10));
+    QTRY_COMPARE(panel.at(15, 15), qRgb(255, 0, 0));   // over the control, at once
+    QCOMPARE(panel.at(40, 30), qRgb(255, 255, 255));    // the rest shows the control
+    canvas.EndPaint();
+    QVERIFY(canvas.Canvas()->ClipRect().Right == 0);   // a fresh canvas, on nothing yet
+    QTest::qWait(50);
+    QCOMPARE(panel.at(15, 15), qRgb(255, 0, 0));       // still there after the session
+    panel.control->update();                            // until the control paints itself
+    QTRY_COMPARE(panel.at(15, 15), qRgb(255, 255, 255));
+}
+
+void tst_TqCompCanvas::controlByNameAndGone()
+{
+    Panel panel;
+    TqCompCanvas canvas(&panel.form);
+    canvas.SetControlComponent(QStringLiteral("dial"));
+    QCOMPARE(canvas.Control(), panel.control);
+    canvas.StartPaint();
+    delete panel.control;
+    QVERIFY(!canvas.Drawing());
+    QVERIFY(!canvas.Control());
+    QVERIFY(canvas.ControlComponent().isEmpty());
+}
+
+QTEST_MAIN(tst_TqCompCanvas)
+#include "tst_tqcompcanvas.moc"
