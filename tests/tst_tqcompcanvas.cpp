@@ -69,12 +69,14 @@ void tst_TqCompCanvas::drawingShowsUntilTheControlPaints()
     canvas.SetControl(panel.control);
     canvas.StartPaint();
     TCanvas *c = canvas.Canvas();
+    c->Pen.SetColor(clLime);
     c->Brush.SetColor(clRed);
     c->FillRect(Rect(0, 0, 10, 10));
     QTRY_COMPARE(panel.at(15, 15), qRgb(255, 0, 0));   // over the control, at once
     QCOMPARE(panel.at(40, 30), qRgb(255, 255, 255));    // the rest shows the control
     canvas.EndPaint();
     QVERIFY(canvas.Canvas()->ClipRect().Right == 0);   // a fresh canvas, on nothing yet
+    QCOMPARE(canvas.Canvas()->Pen.Color(), TColor(clBlack));   // keeping nothing of the last
     QTest::qWait(50);
     QCOMPARE(panel.at(15, 15), qRgb(255, 0, 0));       // still there after the session
     panel.control->update();                            // until the control paints itself

@@ -7,6 +7,7 @@
 
 #include "testutil.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <cerrno>
@@ -41,6 +42,7 @@ private slots:
     void startFailures();
     void waitingAndExitCodes();
     void noOpenFilesHandedOn();
+    void aThousandStartsLeakNothing();
     void softWaitEndsWithTheApplication();
 };
 
@@ -132,6 +134,45 @@ void tst_TqcRunProg::noOpenFilesHandedOn()
     r.run.Run();
     ::close(fd);
     QCOMPARE(r.run.ReturnCode(), 0);
+}
+
+namespace {
+int openFiles() { return int(QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size()); }
+// This process's children that have not been reaped, ended or not, by
+// their process numbers.
+QString unreaped()
+{
+    QStringList found;
+    const QByteArray me = QByteArray::number(getpid());
+    for (const QString &pid : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile f(QStringLiteral("/proc/%1/stat").arg(pid));
+        if (!pid[0].isDigit() || !f.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray stat = f.readAll();
+        // pid (name) state ppid ...: the name may hold spaces, so after its ")".
+        const QList<QByteArray> rest = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
+        if (rest.size() > 1 && rest[1] == me)
+            found << pid;
+    }
+    return found.join(QLatin1Char(' '));
+}
+} // namespace
+
+void tst_TqcRunProg::aThousandStartsLeakNothing()
+{
+    Runner r;
+    const int files = openFiles();
+    r.run.SetCmdLine(QStringLiteral("true"));
+    for (int i = 0; i < 1000; ++i)
+        r.run.Run();
+    QVERIFY(openFiles() <= files);   // Qt may close one of its own meanwhile
+    QCOMPARE(unreaped(), QString());
+    // Not waited for: each is reaped once it ends.
+    r.run.SetWait(false);
+    for (int i = 0; i < 200; ++i)
+        r.run.Run();
+    QTRY_COMPARE(unreaped(), QString());
+    QTRY_VERIFY(openFiles() <= files);
 }
 
 // Last: the application's end stays told for the rest of the run.
