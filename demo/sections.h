@@ -27,5 +27,6 @@ QGroupBox *instrumentsSection(QWidget *parent);
 QGroupBox *controlsSection(QWidget *parent);
 QGroupBox *buttonsSection(QWidget *parent);
 QGroupBox *panelsSection(QWidget *parent);
+QGroupBox *bitmapsSection(QWidget *parent);
 class TqShowApp;
 QGroupBox *servicesSection(QWidget *parent, TqShowApp *info);

@@ -1,8 +1,11 @@
 #pragma once
-// The buttons: colour buttons (windowed and not), the gradient button and
-// the shape button.
+// The buttons and bitmaps: colour buttons (windowed and not), the gradient
+// button, the shape button, the bitmap effects, the frame and the divider.
 
+#include "buttons/qbmpeffects.h"
 #include "buttons/qcolorbtn.h"
+#include "buttons/qdivider.h"
+#include "buttons/qframe.h"
 #include "buttons/qgradbtn.h"
 #include "buttons/qnwcolorbtn.h"
 #include "buttons/qshapebtn.h"

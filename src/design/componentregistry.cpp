@@ -176,6 +176,14 @@ const std::vector<TComponentEntry> kComponents = {
      "A value between Min and Max as a bar filled from the left, continuous with a formatted "
      "caption or as a row of LED-like blocks, plain or cut from a tiled picture.",
      make<TqGauge>, poseGauge, true},
+    {"TqFrame", "buttons/qanimate.h", 0, 17, "Frame",
+     "A lowered or raised box, an etched frame, or an etched line along one edge, for grouping "
+     "controls on a panel.",
+     make<TqFrame>, nullptr, true},
+    {"TqDivider", "buttons/qanimate.h", 0, 18, "Divider",
+     "An etched line across a panel, horizontal or vertical; a horizontal one may carry a "
+     "caption.",
+     make<TqDivider>, nullptr, true},
     {"TqMovePanel", "services/mystd.h", 0, 19, "Move panel",
      "A panel the user drags inside its parent; it can stick to an edge by placement or by "
      "alignment, and OnBeforeUpdate may change or refuse each move.",

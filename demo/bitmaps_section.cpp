@@ -1,0 +1,94 @@
+#include "sections.h"
+
+#include "buttons/qanimate.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace {
+
+// One picture for every effect: a small gauge face on magenta, the glyphs'
+// transparent colour.
+QImage face()
+{
+    QImage image(40, 40, QImage::Format_RGB32);
+    image.fill(qRgb(255, 0, 255));
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setBrush(QColor(240, 200, 60));
+    p.setPen(QPen(QColor(40, 40, 40), 2));
+    p.drawEllipse(QRectF(3, 3, 33, 33));
+    p.setPen(QPen(QColor(200, 0, 0), 3));
+    p.drawLine(QPointF(20, 20), QPointF(31, 10));
+    return image;
+}
+
+QLabel *shown(QWidget *parent, void (*effect)(TBitmap &))
+{
+    TBitmap b;
+    b.Assign(face());
+    effect(b);
+    auto *label = new QLabel(parent);
+    label->setPixmap(QPixmap::fromImage(b.Image()));
+    return label;
+}
+
+} // namespace
+
+QGroupBox *bitmapsSection(QWidget *parent)
+{
+    auto *box = new QGroupBox(QStringLiteral("Bitmaps"), parent);
+    SectionRows row(box);
+    auto *effects = new QWidget(box);
+    auto *line = new QHBoxLayout(effects);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(shown(effects, [](TBitmap &) {}));
+    line->addWidget(shown(effects, [](TBitmap &b) { BMPRotate(b, 90); }));
+    line->addWidget(shown(effects, [](TBitmap &b) { BMPRotate(b, 30); }));
+    line->addWidget(shown(effects, [](TBitmap &b) { DarkenBMP(b, 40); }));
+    line->addWidget(shown(effects, [](TBitmap &b) { LightenBMP(b, 50); }));
+    line->addWidget(shown(effects, [](TBitmap &b) { GreyBMP(b); }));
+    line->addWidget(shown(effects, [](TBitmap &b) { GreyBMP(b); RasterBMP(b, clBtnFace); }));
+    auto *blit = new QLabel(effects);
+    {
+        QImage ground(40, 40, QImage::Format_RGB32);
+        ground.fill(qRgb(60, 90, 140));
+        TCanvas canvas(&ground);
+        TBitmap b;
+        b.Assign(face());
+        TransparentBlt(canvas, 0, 0, b, TransparentColorOf(b));
+        blit->setPixmap(QPixmap::fromImage(ground));
+    }
+    line->addWidget(blit);
+    line->addStretch();
+    row(QStringLiteral("the picture; turned 90 and 30; darker, lighter, grey, disabled; blitted without its key"), effects);
+
+    auto *frames = new QWidget(box);
+    frames->setFixedSize(520, 60);
+    int x = 0;
+    for (auto shape : {TqFrame::fsBox, TqFrame::fsFrame, TqFrame::fsTopLine, TqFrame::fsBottomLine,
+                       TqFrame::fsLeftLine, TqFrame::fsRightLine})
+        for (auto style : {TqFrame::fsLowered, TqFrame::fsRaised}) {
+            auto *frame = new TqFrame(frames);
+            frame->SetShape(shape);
+            frame->SetStyle(style);
+            frame->SetBounds(x, 10, 36, 40);
+            x += 42;
+        }
+    row(QStringLiteral("TqFrame: box, frame and the four lines, lowered and raised"), frames);
+
+    auto *dividers = new QWidget(box);
+    dividers->setFixedSize(520, 40);
+    auto *left = new TqDivider(dividers);
+    left->SetBounds(0, 0, 240, 18);
+    left->SetCaption(QStringLiteral("Input"));
+    auto *centred = new TqDivider(dividers);
+    centred->SetBounds(0, 20, 240, 18);
+    centred->SetCaption(QStringLiteral("Output"));
+    centred->SetAlignment(taCenter);
+    auto *upright = new TqDivider(dividers);
+    upright->SetKind(TqDivider::dkVertical);
+    upright->SetBounds(260, 0, 10, 40);
+    row(QStringLiteral("TqDivider with captions, and upright"), dividers);
+    return box;
+}

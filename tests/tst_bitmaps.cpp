@@ -1,0 +1,151 @@
+// Bitmap effects pixel by pixel (turns, darken, lighten, grey, the disabled
+// raster, the transparent blit) and the frame and divider pictures.
+#include "buttons/qanimate.h"
+
+#include "testutil.h"
+
+namespace {
+
+// A picture whose pixels tell where they came from.
+void numbered(TBitmap &b, int w, int h)
+{
+    QImage image(w, h, QImage::Format_RGB32);
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x)
+            image.setPixel(x, y, qRgb(x * 10, y * 10, 200));
+    b.Assign(image);
+}
+
+QRgb at(const TBitmap &b, int x, int y) { return b.Image().pixel(x, y) | 0xFF000000u; }
+
+} // namespace
+
+class tst_Bitmaps : public QObject
+{
+    Q_OBJECT
+private slots:
+    void rightAnglesAreExact();
+    void anyAngleByNearestPixel();
+    void darkenLightenGrey();
+    void rasterAndTransparentBlit();
+    void framesAndDividers();
+};
+
+void tst_Bitmaps::rightAnglesAreExact()
+{
+    TBitmap b;
+    numbered(b, 4, 3);
+    BMPRotate(b, 90);   // clockwise: (x, y) goes to (h - 1 - y, x)
+    QCOMPARE(QSize(b.Width(), b.Height()), QSize(3, 4));
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 4; ++x)
+            QCOMPARE(at(b, 2 - y, x), qRgb(x * 10, y * 10, 200));
+    BMPRotate(b, 90);   // twice is a half turn
+    QCOMPARE(at(b, 0, 0), qRgb(30, 20, 200));
+    BMPRotate(b, -180);   // and back
+    QCOMPARE(at(b, 3, 2), qRgb(30, 20, 200));
+    BMPRotate(b, 270);
+    QCOMPARE(at(b, 0, 3), qRgb(0, 0, 200));   // (0,0) of a 4 x 3 after a left turn
+}
+
+void tst_Bitmaps::anyAngleByNearestPixel()
+{
+    TBitmap b;
+    numbered(b, 10, 10);
+    BMPRotate(b, 45);
+    QCOMPARE(QSize(b.Width(), b.Height()), QSize(15, 15));
+    QCOMPARE(at(b, 7, 7), qRgb(50, 50, 200));          // the centre stays
+    QCOMPARE(at(b, 0, 0), qRgb(0, 90, 200));           // corners: the transparent colour
+    QCOMPARE(at(b, 7, 1), qRgb(0, 0, 200));            // the top-left corner turned to the top
+}
+
+void tst_Bitmaps::darkenLightenGrey()
+{
+    TBitmap b;
+    b.Assign([] {
+        QImage i(2, 1, QImage::Format_RGB32);
+        i.setPixel(0, 0, qRgb(200, 100, 51));
+        i.setPixel(1, 0, qRgb(255, 0, 10));
+        return i;
+    }());
+    DarkenBMP(b, 25);
+    QCOMPARE(at(b, 0, 0), qRgb(150, 75, 38));
+    LightenBMP(b, 50);
+    QCOMPARE(at(b, 0, 0), qRgb(203, 165, 147));
+    QCOMPARE(at(b, 1, 0), qRgb(223, 128, 132));   // (191, 0, 8) after the darkening
+    DarkenBMP(b, 250);   // past 100: black
+    QCOMPARE(at(b, 1, 0), qRgb(0, 0, 0));
+    b.Assign([] {
+        QImage i(1, 1, QImage::Format_RGB32);
+        i.setPixel(0, 0, qRgb(255, 128, 0));
+        return i;
+    }());
+    GreyBMP(b);
+    QCOMPARE(at(b, 0, 0), qRgb(151, 151, 151));   // (299*255 + 587*128) / 1000
+}
+
+void tst_Bitmaps::rasterAndTransparentBlit()
+{
+    TBitmap b;
+    QImage glyph(3, 3, QImage::Format_RGB32);
+    glyph.fill(qRgb(255, 0, 255));   // the key: bottom-left
+    glyph.setPixel(1, 0, qRgb(0, 0, 0));
+    glyph.setPixel(1, 1, qRgb(0, 0, 0));
+    glyph.setPixel(0, 1, qRgb(0, 0, 0));
+    b.Assign(glyph);
+    QCOMPARE(TransparentColorOf(b), TColor(0x00FF00FF));
+    RasterBMP(b, clGray);
+    QCOMPARE(at(b, 1, 0), qRgb(128, 128, 128));   // x + y odd
+    QCOMPARE(at(b, 1, 1), qRgb(0, 0, 0));         // even: kept
+    QCOMPARE(at(b, 2, 1), qRgb(255, 0, 255));     // transparent: kept
+    QImage target(5, 5, QImage::Format_RGB32);
+    target.fill(qRgb(0, 255, 0));
+    TCanvas canvas(&target);
+    TransparentBlt(canvas, 1, 1, b, 0x00FF00FF);
+    QCOMPARE(target.pixel(2, 2), qRgb(0, 0, 0));
+    QCOMPARE(target.pixel(3, 3), qRgb(0, 255, 0));   // the key colour is not painted
+    QCOMPARE(target.pixel(2, 1), qRgb(128, 128, 128));
+}
+
+void tst_Bitmaps::framesAndDividers()
+{
+    const QRgb shadow = ColorToQRgb(clBtnShadow) | 0xFF000000u, light = ColorToQRgb(clBtnHighlight) | 0xFF000000u;
+    const QRgb under = qRgb(1, 2, 3);
+    TqFrame frame;
+    frame.SetBounds(0, 0, 20, 10);
+    QImage box = frame.RenderImage(under);
+    QCOMPARE(box.pixel(0, 0), shadow);
+    QCOMPARE(box.pixel(19, 9), light);
+    QCOMPARE(box.pixel(10, 5), under);   // only lines
+    frame.SetStyle(TqFrame::fsRaised);
+    frame.SetShape(TqFrame::fsBottomLine);
+    QImage bottom = frame.RenderImage(under);
+    QCOMPARE(bottom.pixel(10, 8), light);
+    QCOMPARE(bottom.pixel(10, 9), shadow);
+    QCOMPARE(bottom.pixel(10, 7), under);
+    frame.SetShape(TqFrame::fsFrame);
+    frame.SetStyle(TqFrame::fsLowered);
+    QImage groove = frame.RenderImage(under);
+    QCOMPARE(groove.pixel(0, 5), shadow);
+    QCOMPARE(groove.pixel(1, 5), light);
+    QCOMPARE(groove.pixel(18, 5), shadow);
+    QCOMPARE(groove.pixel(19, 5), light);
+    TqDivider divider;
+    divider.SetBounds(0, 0, 100, 16);
+    QImage line = divider.RenderImage(under);
+    QCOMPARE(divider.LinePosition(), 7);
+    QCOMPARE(line.pixel(50, 7), shadow);
+    QCOMPARE(line.pixel(50, 8), light);
+    divider.SetCaption(QStringLiteral("Input"));
+    QImage captioned = divider.RenderImage(under);
+    QCOMPARE(captioned.pixel(9, 7), divider.palette().color(QPalette::Window).rgb());   // the caption's ground
+    QCOMPARE(captioned.pixel(95, 7), shadow);
+    divider.SetKind(TqDivider::dkVertical);
+    divider.SetBounds(0, 0, 10, 40);
+    QImage upright = divider.RenderImage(under);
+    QCOMPARE(upright.pixel(4, 20), shadow);
+    QCOMPARE(upright.pixel(5, 20), light);
+}
+
+QTEST_MAIN(tst_Bitmaps)
+#include "tst_bitmaps.moc"
