@@ -90,5 +90,35 @@ QGroupBox *bitmapsSection(QWidget *parent)
     upright->SetKind(TqDivider::dkVertical);
     upright->SetBounds(260, 0, 10, 40);
     row(QStringLiteral("TqDivider with captions, and upright"), dividers);
+
+    // An animation: the face's needle going round, eight frames in a strip.
+    QImage strip(8 * 40, 40, QImage::Format_RGB32);
+    for (int f = 0; f < 8; ++f) {
+        TBitmap frame;
+        frame.Assign(face());
+        BMPRotate(frame, 45 * f);
+        QPainter(&strip).drawImage(f * 40, 0, frame.Image().copy((frame.Width() - 40) / 2, (frame.Height() - 40) / 2, 40, 40));
+    }
+    auto *pictures = new QWidget(box);
+    auto *pictureLine = new QHBoxLayout(pictures);
+    pictureLine->setContentsMargins(0, 0, 0, 0);
+    auto *animation = new TqAnimated(pictures);
+    animation->SetBounds(0, 0, 40, 40);
+    animation->setFixedSize(40, 40);
+    animation->SetBitmap(QPixmap::fromImage(strip));
+    animation->SetTransparent(true);
+    animation->SetInterval(120);
+    animation->SetPlay(true);
+    pictureLine->addWidget(animation);
+    auto *stretched = new TqBitmap(pictures);
+    stretched->setFixedSize(120, 60);
+    stretched->SetBitmap(QPixmap::fromImage(face()));
+    stretched->SetStretch(true);
+    stretched->SetProportional(true);
+    stretched->SetCenter(true);
+    stretched->SetTransparent(true);
+    pictureLine->addWidget(stretched);
+    pictureLine->addStretch();
+    row(QStringLiteral("TqAnimated running; TqBitmap stretched, proportional, centred, see-through"), pictures);
     return box;
 }

@@ -29,6 +29,8 @@ private slots:
     void darkenLightenGrey();
     void rasterAndTransparentBlit();
     void framesAndDividers();
+    void pictureInPlace();
+    void animationFramesInOrder();
 };
 
 void tst_Bitmaps::rightAnglesAreExact()
@@ -145,6 +147,62 @@ void tst_Bitmaps::framesAndDividers()
     QImage upright = divider.RenderImage(under);
     QCOMPARE(upright.pixel(4, 20), shadow);
     QCOMPARE(upright.pixel(5, 20), light);
+}
+
+void tst_Bitmaps::pictureInPlace()
+{
+    const QSize control(100, 50), picture(20, 10);
+    QCOMPARE(BitmapPlace(control, picture, false, false, false), QRect(0, 0, 20, 10));
+    QCOMPARE(BitmapPlace(control, picture, false, false, true), QRect(40, 20, 20, 10));
+    QCOMPARE(BitmapPlace(control, picture, true, false, false), QRect(0, 0, 100, 50));
+    QCOMPARE(BitmapPlace(control, QSize(10, 10), true, true, true), QRect(25, 0, 50, 50));
+    QVERIFY(BitmapPlace(control, QSize(), true, false, false).isEmpty());
+    // Transparent: the key colour shows what lies beneath.
+    QImage glyph(4, 4, QImage::Format_RGB32);
+    glyph.fill(qRgb(255, 0, 255));
+    glyph.setPixel(1, 1, qRgb(10, 20, 30));
+    TqBitmap bitmap;
+    bitmap.SetBitmap(QPixmap::fromImage(glyph));
+    bitmap.SetStretch(true);   // 25 x 25 pixels each
+    bitmap.SetTransparent(true);
+    const QImage shown = bitmap.RenderImage(qRgb(0, 128, 0));
+    QCOMPARE(shown.pixel(30, 30), qRgb(10, 20, 30));
+    QCOMPARE(shown.pixel(10, 10), qRgb(0, 128, 0));
+    bitmap.SetAutoSize(true);
+    QCOMPARE(bitmap.size(), QSize(4, 4));
+}
+
+void tst_Bitmaps::animationFramesInOrder()
+{
+    QImage strip(64, 16, QImage::Format_RGB32);
+    for (int f = 0; f < 4; ++f)
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 16; ++x)
+                strip.setPixel(f * 16 + x, y, qRgb(f * 60, 0, 0));
+    TqAnimated animation;
+    animation.SetBitmap(QPixmap::fromImage(strip));
+    QCOMPARE(animation.FrameCount(), 4);   // square frames from the strip
+    QCOMPARE(animation.FrameImage(2).pixel(5, 5), qRgb(120, 0, 0));
+    QList<int> seen;
+    connect(&animation, &TqAnimated::OnFrame, &animation, [&] { seen << animation.Frame(); });
+    animation.SetInterval(5);
+    animation.SetLoop(false);
+    animation.SetPlay(true);
+    QTRY_VERIFY(!animation.Play());   // it stops on the last frame
+    QCOMPARE(seen, (QList<int>{1, 2, 3}));
+    QCOMPARE(animation.RenderImage().pixel(5, 5), qRgb(180, 0, 0));
+    // Looping, it goes round.
+    seen.clear();
+    animation.SetLoop(true);
+    animation.SetPlay(true);
+    QTRY_VERIFY(seen.size() >= 5);
+    animation.SetPlay(false);
+    QCOMPARE(seen.mid(0, 5), (QList<int>{0, 1, 2, 3, 0}));
+    // Frames given: the strip is cut in two.
+    animation.SetFrames(2);
+    QCOMPARE(animation.FrameImage(1).width(), 32);
+    animation.SetFrame(7);
+    QCOMPARE(animation.Frame(), 1);
 }
 
 QTEST_MAIN(tst_Bitmaps)

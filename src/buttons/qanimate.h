@@ -1,7 +1,10 @@
 #pragma once
 // The buttons and bitmaps: colour buttons (windowed and not), the gradient
-// button, the shape button, the bitmap effects, the frame and the divider.
+// button, the shape button, the bitmap effects, the picture and the
+// animation, the frame and the divider.
 
+#include "buttons/qanimated.h"
+#include "buttons/qbitmap.h"
 #include "buttons/qbmpeffects.h"
 #include "buttons/qcolorbtn.h"
 #include "buttons/qdivider.h"

@@ -128,6 +128,13 @@ void poseSlideBar(QWidget *w)
 // Widget-box order: the pages in order, within a page the order of the
 // palette rows; the tray icon closes the second page.
 const std::vector<TComponentEntry> kComponents = {
+    {"TqBitmap", "buttons/qanimate.h", 0, 6, "Picture",
+     "A picture at its size, centred, or stretched (keeping its proportions if asked); the "
+     "transparent colour can let what lies beneath show.",
+     make<TqBitmap>, nullptr, true},
+    {"TqAnimated", "buttons/qanimate.h", 0, 7, "Animation",
+     "Frames cut from a strip, shown one after the other at an interval, once or in a loop.",
+     make<TqAnimated>, nullptr, true},
     {"TqBackground", "backgrounds/blend.h", 0, 8, "Form background",
      "Gives the client area of its form a wallpaper: a tiled bitmap, a colour blend in bands or "
      "rings, or the steel texture, painted behind the form's controls. Invisible at run time.",

@@ -43,6 +43,7 @@ QVariant bitmapEditorValue(QDialog *dialog) { return static_cast<TqBitmapEditor 
 const std::vector<TPropertyEditorEntry> kEditors = {
     {"TqShapeBtn", "Shape", "Shape...", createShapeEditor, shapeEditorValue},
     {"TqGauge", "CaptionStyle", "Caption Style...", createGaugeEditor, gaugeEditorValue},
+    {"TqBitmap", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
     {"TqBackground", "BitMap", "Bitmap...", createBitMapEditor, bitmapEditorValue},
     {"TqTileMap", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
     {"TqNWTileMap", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
