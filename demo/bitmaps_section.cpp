@@ -2,7 +2,9 @@
 
 #include "buttons/qanimate.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QStyle>
 #include <QPainter>
 
 namespace {
@@ -120,5 +122,45 @@ QGroupBox *bitmapsSection(QWidget *parent)
     pictureLine->addWidget(stretched);
     pictureLine->addStretch();
     row(QStringLiteral("TqAnimated running; TqBitmap stretched, proportional, centred, see-through"), pictures);
+
+    // Glyph buttons: each layout, enabled and not, windowed and not, icons.
+    const QImage small = face().scaled(20, 20, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    auto *buttons = new QWidget(box);
+    buttons->setFixedSize(700, 40);
+    int bx = 0;
+    const auto place = [&](TControl *b, int w) {
+        b->SetBounds(bx, 4, w, 32);
+        bx += w + 6;
+    };
+    for (auto layout : {blGlyphLeft, blGlyphRight, blGlyphTop}) {
+        auto *b = new TqBitColBtn(buttons);
+        b->SetGlyph(QPixmap::fromImage(small));
+        b->SetLayout(layout);
+        b->SetCaption(layout == blGlyphTop ? QString() : QStringLiteral("Meter"));
+        b->SetColor(0x00E0F0F0);
+        place(b, layout == blGlyphTop ? 40 : 90);
+    }
+    auto *off = new TqBitColBtn(buttons);
+    off->SetGlyph(QPixmap::fromImage(small));
+    off->SetCaption(QStringLiteral("Off"));
+    off->SetColor(0x00E0F0F0);
+    off->setEnabled(false);
+    place(off, 80);
+    auto *nw = new TqNWBitColBtn(buttons);
+    nw->SetGlyph(QPixmap::fromImage(small));
+    nw->SetCaption(QStringLiteral("Graphic"));
+    nw->SetColor(0x00F0E0E0);
+    place(nw, 100);
+    auto *icon = new TqIconColBtn(buttons);
+    icon->SetIcon(QApplication::style()->standardIcon(QStyle::SP_MediaPlay));
+    icon->SetCaption(QStringLiteral("Play"));
+    icon->SetColor(0x00E0FFE0);
+    place(icon, 80);
+    auto *nwIcon = new TqNWIconColBtn(buttons);
+    nwIcon->SetIcon(QApplication::style()->standardIcon(QStyle::SP_MediaStop));
+    nwIcon->SetCaption(QStringLiteral("Stop"));
+    nwIcon->SetColor(0x00E0E0FF);
+    place(nwIcon, 80);
+    row(QStringLiteral("TqBitColBtn (left, right, top, disabled), TqNWBitColBtn, TqIconColBtn, TqNWIconColBtn"), buttons);
     return box;
 }

@@ -31,6 +31,8 @@ private slots:
     void framesAndDividers();
     void pictureInPlace();
     void animationFramesInOrder();
+    void glyphPlacesForEachLayout();
+    void glyphButtons();
 };
 
 void tst_Bitmaps::rightAnglesAreExact()
@@ -203,6 +205,68 @@ void tst_Bitmaps::animationFramesInOrder()
     QCOMPARE(animation.FrameImage(1).width(), 32);
     animation.SetFrame(7);
     QCOMPARE(animation.Frame(), 1);
+}
+
+void tst_Bitmaps::glyphPlacesForEachLayout()
+{
+    const QRect client(0, 0, 100, 40);
+    const QSize glyph(16, 16), text(40, 14);
+    struct Case
+    {
+        TButtonLayout layout;
+        int margin;
+        QRect glyph, caption;
+    } cases[] = {
+        {blGlyphLeft, -1, QRect(20, 12, 16, 16), QRect(40, 0, 40, 40)},
+        {blGlyphRight, -1, QRect(64, 12, 16, 16), QRect(20, 0, 40, 40)},
+        {blGlyphTop, -1, QRect(42, 3, 16, 16), QRect(0, 23, 100, 14)},
+        {blGlyphBottom, -1, QRect(42, 21, 16, 16), QRect(0, 3, 100, 14)},
+        {blGlyphLeft, 5, QRect(5, 12, 16, 16), QRect(25, 0, 40, 40)},
+    };
+    for (const Case &c : cases) {
+        const TGlyphPlaces p = GlyphPlaces(client, glyph, text, c.layout, c.margin, 4);
+        QCOMPARE(p.glyph, c.glyph);
+        QCOMPARE(p.caption, c.caption);
+    }
+    // Without a caption the glyph is centred.
+    QCOMPARE(GlyphPlaces(client, glyph, QSize(), blGlyphLeft, -1, 4).glyph, QRect(42, 12, 16, 16));
+}
+
+void tst_Bitmaps::glyphButtons()
+{
+    QImage glyph(8, 8, QImage::Format_RGB32);
+    glyph.fill(qRgb(255, 0, 255));
+    glyph.setPixel(4, 4, qRgb(255, 0, 0));
+    glyph.setPixel(5, 4, qRgb(255, 0, 0));
+    ShownOnForm<TqBitColBtn> shown;
+    TqBitColBtn *button = shown.control;
+    button->SetBounds(0, 0, 60, 30);
+    button->SetColor(0x00C0FFC0);
+    button->SetGlyph(QPixmap::fromImage(glyph));
+    const QPoint at = button->Places().glyph.topLeft();
+    QCOMPARE(at, QPoint(26, 11));   // no caption: in the middle
+    QImage up = button->RenderImage();
+    QCOMPARE(up.pixel(at + QPoint(4, 4)), qRgb(255, 0, 0));
+    QCOMPARE(up.pixel(at + QPoint(1, 1)), qRgb(192, 255, 192));   // the key shows the face
+    QTest::mousePress(button, Qt::LeftButton, {}, QPoint(30, 15));
+    QCOMPARE(button->RenderImage().pixel(at + QPoint(5, 5)), qRgb(255, 0, 0));   // pressed: it moves
+    QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(30, 15));
+    button->setEnabled(false);
+    QImage off = button->RenderImage();
+    QCOMPARE(off.pixel(at + QPoint(4, 4)), qRgb(76, 76, 76));     // grey (x + y even)
+    QCOMPARE(off.pixel(at + QPoint(5, 4)), qRgb(192, 255, 192));  // the checker (odd)
+    // An icon keeps its own transparency.
+    QImage icon(16, 16, QImage::Format_ARGB32);
+    icon.fill(Qt::transparent);
+    icon.setPixel(8, 8, qRgba(0, 0, 255, 255));
+    TqIconColBtn iconButton;
+    iconButton.SetBounds(0, 0, 60, 30);
+    iconButton.SetColor(0x00C0FFC0);
+    iconButton.SetIcon(QIcon(QPixmap::fromImage(icon)));
+    const QPoint iat = iconButton.Places().glyph.topLeft();
+    const QImage face = iconButton.RenderImage();
+    QCOMPARE(face.pixel(iat + QPoint(8, 8)), qRgb(0, 0, 255));
+    QCOMPARE(face.pixel(iat + QPoint(2, 2)), qRgb(192, 255, 192));
 }
 
 QTEST_MAIN(tst_Bitmaps)

@@ -21,6 +21,9 @@ Q_NAMESPACE
 // Despite its name it places the caption vertically.
 enum qbHorzAlign { qbha_Center, qbha_Top, qbha_Bottom };
 Q_ENUM_NS(qbHorzAlign)
+// Where a glyph button has its glyph.
+enum TButtonLayout { blGlyphLeft, blGlyphRight, blGlyphTop, blGlyphBottom };
+Q_ENUM_NS(TButtonLayout)
 } // namespace Buttons
 using namespace Buttons;
 
@@ -121,6 +124,10 @@ protected:
     }
     // The caption is bold while this is true.
     virtual bool BoldCaption() const { return false; }
+    // Where the caption goes; a glyph button keeps the rest for its glyph.
+    virtual TRect CaptionRect() const { return Rect(5, 5, this->width() - 5, this->height() - 5); }
+    // Drawn over the face after the caption (a glyph), pressed or not.
+    virtual void PaintGlyph(TCanvas &canvas, bool enabled) { Q_UNUSED(canvas); Q_UNUSED(enabled); }
     // The focus rectangle is drawn while this is true.
     virtual bool ShowsFocus() const { return false; }
     virtual void DoOnPaint() = 0;
@@ -156,6 +163,7 @@ protected:
             paintFaceAndBevel(canvas, bevel);
         }
         paintCaption(canvas, enabled);
+        PaintGlyph(canvas, enabled);
         if (ShowsFocus() && enabled) {
             TRect focus = this->ClientRect();
             InflateRect(focus, -3, -3);
@@ -182,7 +190,7 @@ private:
 
     void paintCaption(TCanvas &canvas, bool enabled)
     {
-        TRect r = Rect(5, 5, this->width() - 5, this->height() - 5);
+        TRect r = CaptionRect();
         canvas.Font = this->CanvasFont();
         canvas.Font.SetStyle(BoldCaption() ? fsBold : 0);
         if (enabled && FPressed)

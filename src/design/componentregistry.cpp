@@ -262,6 +262,13 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqGradBtn", "buttons/qanimate.h", 2, 29, "Gradient button",
      "The colour button with a face blended from Color to EndColor, in bands or rings.",
      make<TqGradBtn>, poseGradBtn, true},
+    {"TqBitColBtn", "buttons/qanimate.h", 2, 30, "Bitmap colour button",
+     "The colour button with a bitmap glyph beside or above its caption; the glyph's "
+     "bottom-left colour is see-through, and it greys when the button is disabled.",
+     make<TqBitColBtn>, nullptr, true},
+    {"TqIconColBtn", "buttons/qanimate.h", 2, 31, "Icon colour button",
+     "The colour button with an icon beside or above its caption, drawn at the size asked for.",
+     make<TqIconColBtn>, nullptr, true},
     {"TqKnob", "instruments/qpanel.h", 2, 34, "Rotary knob",
      "A shaded, round knob whose pointer shows a value; the value follows the mouse angle "
      "around the centre, or the keyboard.",
@@ -282,6 +289,12 @@ const std::vector<TComponentEntry> kComponents = {
      "The colour button as a graphic control: no focus, but it can be transparent, "
      "optionally lightened by a grey glass.",
      make<TqNWColorBtn>, poseButton<TqNWColorBtn>, true},
+    {"TqNWBitColBtn", "buttons/qanimate.h", 2, 39, "Bitmap colour button without a window",
+     "The non-windowed colour button with a bitmap glyph beside or above its caption.",
+     make<TqNWBitColBtn>, nullptr, true},
+    {"TqNWIconColBtn", "buttons/qanimate.h", 2, 40, "Icon colour button without a window",
+     "The non-windowed colour button with an icon beside or above its caption.",
+     make<TqNWIconColBtn>, nullptr, true},
 };
 
 } // namespace

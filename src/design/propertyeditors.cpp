@@ -38,6 +38,8 @@ QDialog *bitmapEditor(QWidget *component, const char *property, QWidget *parent)
 
 QDialog *createBitMapEditor(QWidget *component, QWidget *parent) { return bitmapEditor(component, "BitMap", parent); }
 QDialog *createBitmapEditor(QWidget *component, QWidget *parent) { return bitmapEditor(component, "Bitmap", parent); }
+QDialog *createGlyphEditor(QWidget *component, QWidget *parent) { return bitmapEditor(component, "Glyph", parent); }
+QDialog *createGlyphDownEditor(QWidget *component, QWidget *parent) { return bitmapEditor(component, "GlyphDown", parent); }
 QVariant bitmapEditorValue(QDialog *dialog) { return static_cast<TqBitmapEditor *>(dialog)->FileName(); }
 
 const std::vector<TPropertyEditorEntry> kEditors = {
@@ -47,6 +49,10 @@ const std::vector<TPropertyEditorEntry> kEditors = {
     {"TqBackground", "BitMap", "Bitmap...", createBitMapEditor, bitmapEditorValue},
     {"TqTileMap", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
     {"TqNWTileMap", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
+    {"TqBitColBtn", "Glyph", "Glyph...", createGlyphEditor, bitmapEditorValue},
+    {"TqBitColBtn", "GlyphDown", "Pressed Glyph...", createGlyphDownEditor, bitmapEditorValue},
+    {"TqNWBitColBtn", "Glyph", "Glyph...", createGlyphEditor, bitmapEditorValue},
+    {"TqNWBitColBtn", "GlyphDown", "Pressed Glyph...", createGlyphDownEditor, bitmapEditorValue},
 };
 
 } // namespace

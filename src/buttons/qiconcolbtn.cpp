@@ -1,0 +1,21 @@
+#include "qiconcolbtn.h"
+
+void TqIconColBtn::SetIcon(const QIcon &icon)
+{
+    FIcon = icon;
+    pick();
+}
+
+void TqIconColBtn::SetIconSize(int size)
+{
+    FIconSize = qMax(1, size);
+    pick();
+}
+
+// The icon's picture nearest the size asked for.
+void TqIconColBtn::pick()
+{
+    FImage = FIcon.isNull() ? QImage()
+                            : FIcon.pixmap(QSize(FIconSize, FIconSize)).toImage().convertToFormat(QImage::Format_ARGB32);
+    Invalidate();
+}

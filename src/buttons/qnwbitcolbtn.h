@@ -1,0 +1,33 @@
+#pragma once
+// The non-windowed colour button with a bitmap glyph (see qglyphbutton.h).
+
+#include "buttons/qnwcolorbtn.h"
+#include "buttons/qglyphbutton.h"
+
+#include <QIcon>
+#include <QPixmap>
+
+class TqNWBitColBtn : public TGlyphButton<TqNWColorBtn>
+{
+    Q_OBJECT
+    Q_PROPERTY(Buttons::TButtonLayout Layout READ Layout WRITE SetLayout)
+    Q_PROPERTY(int Spacing READ Spacing WRITE SetSpacing)
+    Q_PROPERTY(int Margin READ Margin WRITE SetMargin)
+    Q_PROPERTY(QPixmap Glyph READ Glyph WRITE SetGlyph)
+    Q_PROPERTY(QPixmap GlyphDown READ GlyphDown WRITE SetGlyphDown)
+
+public:
+    explicit TqNWBitColBtn(QWidget *parent = nullptr) : TGlyphButton<TqNWColorBtn>(parent) {}
+
+    // The glyph, and the one shown while pressed (none: the glyph moves).
+    QPixmap Glyph() const { return QPixmap::fromImage(FGlyph); }
+    void SetGlyph(const QPixmap &glyph);
+    QPixmap GlyphDown() const { return QPixmap::fromImage(FGlyphDown); }
+    void SetGlyphDown(const QPixmap &glyph);
+
+protected:
+    QImage GlyphImage(bool pressed) const override { return pressed && !FGlyphDown.isNull() ? FGlyphDown : FGlyph; }
+
+private:
+    QImage FGlyph, FGlyphDown;
+};
