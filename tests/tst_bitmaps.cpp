@@ -33,6 +33,8 @@ private slots:
     void animationFramesInOrder();
     void glyphPlacesForEachLayout();
     void glyphButtons();
+    void pictureFromResources();
+    void desktopBehindTheForm();
 };
 
 void tst_Bitmaps::rightAnglesAreExact()
@@ -267,6 +269,51 @@ void tst_Bitmaps::glyphButtons()
     const QImage face = iconButton.RenderImage();
     QCOMPARE(face.pixel(iat + QPoint(8, 8)), qRgb(0, 0, 255));
     QCOMPARE(face.pixel(iat + QPoint(2, 2)), qRgb(192, 255, 192));
+}
+
+void tst_Bitmaps::pictureFromResources()
+{
+    TqResBitmap picture;
+    picture.SetResName(QStringLiteral("gauges/needle.png"));
+    QVERIFY(picture.ResourceFound());
+    QCOMPARE(picture.Bitmap().size(), QSize(6, 4));
+    QCOMPARE(picture.RenderImage().pixel(1, 1), qRgb(255, 255, 0));
+    // A missing name: an empty picture and a word, no crash.
+    QStringList missing;
+    connect(&picture, &TqResBitmap::OnResourceMissing, &picture,
+            [&](QObject *, const QString &name) { missing << name; });
+    picture.SetResName(QStringLiteral("gauges/none.png"));
+    QVERIFY(!picture.ResourceFound());
+    QVERIFY(picture.Bitmap().isNull());
+    QCOMPARE(missing, QStringList{"gauges/none.png"});
+    try {
+        picture.LoadFromResourceName(QStringLiteral(":/nowhere.png"));
+        QFAIL("a missing resource raises");
+    } catch (const EResNotFound &e) {
+        QCOMPARE(QByteArray(e.what()), QByteArray("Resource :/nowhere.png not found"));
+    }
+}
+
+void tst_Bitmaps::desktopBehindTheForm()
+{
+    // Something on the screen first: a red window.
+    QWidget behind;
+    behind.setGeometry(0, 0, 200, 200);
+    behind.setAutoFillBackground(true);
+    QPalette red = behind.palette();
+    red.setColor(QPalette::Window, Qt::red);
+    behind.setPalette(red);
+    behind.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&behind));
+    QWidget form;
+    form.setGeometry(0, 0, 200, 200);
+    auto *desktop = new TqDesktop(&form);
+    desktop->SetBounds(20, 20, 50, 50);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    if (!desktop->Grabbed())
+        QSKIP("this screen gives no picture of itself");
+    QCOMPARE(desktop->RenderImage().pixel(25, 25), qRgb(255, 0, 0));
 }
 
 QTEST_MAIN(tst_Bitmaps)
