@@ -16,6 +16,7 @@
 
 #include <QtDesigner/QDesignerComponents>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
@@ -433,6 +434,22 @@ void tst_Designer::bitmapFromTheBitmapEditor()
     QVERIFY(d->form->commandHistory()->canUndo());
     d->form->commandHistory()->undo();
     QVERIFY(map->Bitmap().isNull());
+    // The pictures of a saved form come back when it is loaded.
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqBitmap\" name=\"picture\"/><widget class=\"TqBitColBtn\" name=\"button\"/>"
+        "</widget></ui>")));
+    auto *picture = d->form->mainContainer()->findChild<TqBitmap *>("picture");
+    auto *button = d->form->mainContainer()->findChild<TqBitColBtn *>("button");
+    d->form->cursor()->setWidgetProperty(picture, QStringLiteral("Bitmap"), DesignerPixmapValue(file));
+    d->form->cursor()->setWidgetProperty(button, QStringLiteral("Glyph"), DesignerPixmapValue(file));
+    QByteArray saved = d->form->contents().toUtf8();
+    QBuffer buffer(&saved);
+    QUiLoader loader;
+    std::unique_ptr<QWidget> loaded(loader.load(&buffer));
+    QVERIFY(loaded);
+    QCOMPARE(loaded->findChild<TqBitmap *>("picture")->Bitmap().size(), QSize(8, 6));
+    QCOMPARE(loaded->findChild<TqBitColBtn *>("button")->Glyph().toImage().pixel(0, 0), qRgb(255, 0, 0));
 }
 
 void tst_Designer::calculatorResultsAreReadOnly()
