@@ -3,10 +3,12 @@
 // - TqScope at 300 x 150, one push and one repaint per step, against a
 //   QWidget that keeps the same two histories and draws a grid and two
 //   polylines with QPainter (aliased, its fastest honest way);
-// - TqPanelMeter against QDial, and TqGauge against QProgressBar, each
-//   with a new value per repaint.
+// - TqPanelMeter against QDial, TqGauge against QProgressBar, and
+//   TqcPeakOmeter at 50 blocks against a vertical QProgressBar, each with a
+//   new value per repaint.
 #include "benchutil.h"
 
+#include "displays/qseg.h"
 #include "indicators/qgauge.h"
 #include "instruments/qpanel.h"
 
@@ -96,10 +98,22 @@ int main(int argc, char **argv)
     const double gaugeRate = renderRate(gauge, [&](int n) { gauge.SetValue(n % 101); });
     const double barRate = renderRate(bar, [&](int n) { bar.setValue(n % 101); });
 
+    // The peak meter at 50 blocks, a new sample per repaint, against a
+    // progress bar of the same size.
+    TqcPeakOmeter peak;
+    peak.SetBounds(0, 0, 24, 200);
+    peak.SetBlocks(50);
+    QProgressBar level;
+    level.setOrientation(Qt::Vertical);
+    level.resize(peak.size());
+    const double peakRate = renderRate(peak, [&](int n) { peak.Push(wave(n)); });
+    const double levelRate = renderRate(level, [&](int n) { level.setValue(wave(n)); });
+
     ratioHeader("repaints");
     ratioRow("TqScope 300x150, push", ours, "QPainter polylines", theirs);
     ratioRow("TqPanelMeter 105x97", meterRate, "QDial", dialRate);
     ratioRow("TqGauge 75x30 with caption", gaugeRate, "QProgressBar", barRate);
+    ratioRow("TqcPeakOmeter 24x200, 50 blocks", peakRate, "QProgressBar", levelRate);
     std::printf("(ratio above 1: faster than the Qt widget in the same area)\n");
     return 0;
 }

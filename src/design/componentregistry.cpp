@@ -25,6 +25,13 @@ QWidget *make(QWidget *parent)
 }
 
 void poseSegment(QWidget *w) { static_cast<TqSegment *>(w)->SetChar('8'); }
+void posePeakOmeter(QWidget *w)
+{
+    auto *meter = static_cast<TqcPeakOmeter *>(w);
+    meter->SetBounds(0, 0, 48, 48);
+    meter->SetBlocks(8);
+    meter->Push(80);
+}
 void poseDotSegment(QWidget *w) { static_cast<TqcDotSegment *>(w)->SetChar('A'); }
 
 void poseSegmentLabel(QWidget *w)
@@ -170,6 +177,10 @@ const std::vector<TComponentEntry> kComponents = {
      "The time of day on segment cells, with or without seconds, ticked by its own "
      "threaded timer.",
      make<TqSegmentClock>, poseSegmentClock, true},
+    {"TqcPeakOmeter", "displays/qseg.h", 0, 48, "Peak-level meter",
+     "An audio-style level meter of LED blocks in green, yellow and red zones, with a peak "
+     "marker that holds and then falls; fed by Value or Push.",
+     make<TqcPeakOmeter>, posePeakOmeter, true},
     {"TqcDotSegment", "displays/qseg.h", 0, 45, "Dot-matrix character",
      "One 7 x 9 dot-matrix character cell with round, square or rounded dots, in 25 sizes.",
      make<TqcDotSegment>, poseDotSegment, true},
