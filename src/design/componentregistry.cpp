@@ -7,6 +7,7 @@
 #include "indicators/qgauge.h"
 #include "indicators/qled.h"
 #include "instruments/qpanel.h"
+#include "labels/labels.h"
 #include "layout/qsplit.h"
 #include "services/mystd.h"
 #include "slidebar/slidebar.h"
@@ -262,6 +263,10 @@ const std::vector<TComponentEntry> kComponents = {
      "moves as events, a menu for each button, the default action on a double-click, and the "
      "form it is on hidden if asked. Invisible at run time.",
      make<TqTrayIcon>, nullptr, false},
+    {"Tq3DLabel", "labels/labels.h", 2, 3, "3D label",
+     "A caption raised from the panel or pressed into it, with highlight and shadow colours and "
+     "a depth.",
+     make<Tq3DLabel>, nullptr, true},
     {"TqShapeBtn", "buttons/qanimate.h", 2, 27, "Shape button",
      "A push button shaped as a rectangle, a triangle, a plus, a minus, an ellipse or a shape "
      "of the application's; a press outside the shape goes to what lies beneath.",
@@ -280,6 +285,10 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqIconColBtn", "buttons/qanimate.h", 2, 31, "Icon colour button",
      "The colour button with an icon beside or above its caption, drawn at the size asked for.",
      make<TqIconColBtn>, nullptr, true},
+    {"TqMouseSpot", "labels/labels.h", 2, 25, "Link label",
+     "A caption that takes another colour, an underline and the pointing hand while the mouse "
+     "is over it, and clicks.",
+     make<TqMouseSpot>, nullptr, true},
     {"TqKnob", "instruments/qpanel.h", 2, 34, "Rotary knob",
      "A shaded, round knob whose pointer shows a value; the value follows the mouse angle "
      "around the centre, or the keyboard.",

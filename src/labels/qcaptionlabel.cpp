@@ -1,0 +1,73 @@
+#include "qcaptionlabel.h"
+
+#include <QFontMetrics>
+
+TCaptionLabel::TCaptionLabel(QWidget *parent) : TGraphicControl(parent)
+{
+    SetBounds(Left(), Top(), 65, 17);
+}
+
+void TCaptionLabel::SetCaption(const QString &caption)
+{
+    if (caption == FCaption)
+        return;
+    FCaption = caption;
+    Changed();
+}
+
+void TCaptionLabel::SetAlignment(Controls::TAlignment alignment)
+{
+    if (alignment == FAlignment)
+        return;
+    FAlignment = alignment;
+    Changed();
+}
+
+void TCaptionLabel::SetTransparent(bool transparent)
+{
+    if (transparent == FTransparent)
+        return;
+    FTransparent = transparent;
+    SetControlStyle(transparent ? ControlStyle() & ~csOpaque : ControlStyle() | csOpaque);
+    UpdateOpacity();
+    Invalidate();
+}
+
+void TCaptionLabel::SetAutoSize(bool autoSize)
+{
+    FAutoSize = autoSize;
+    Changed();
+}
+
+void TCaptionLabel::Changed()
+{
+    if (FAutoSize && !FCaption.isEmpty()) {
+        const QFontMetrics metrics(CanvasFont().ToQFont());
+        const QMargins d = Decoration();
+        SetBounds(Left(), Top(), metrics.horizontalAdvance(FCaption) + d.left() + d.right(),
+                  metrics.height() + d.top() + d.bottom());
+    }
+    Invalidate();
+}
+
+QPoint TCaptionLabel::CaptionAt() const
+{
+    const QFontMetrics metrics(CanvasFont().ToQFont());
+    const QMargins d = Decoration();
+    const int w = metrics.horizontalAdvance(FCaption), h = metrics.height();
+    const int room = width() - d.left() - d.right();
+    const int x = FAlignment == taLeftJustify ? 0 : FAlignment == taRightJustify ? room - w : (room - w) / 2;
+    return QPoint(d.left() + x, d.top() + (height() - d.top() - d.bottom() - h) / 2);
+}
+
+void TCaptionLabel::Paint(TCanvas &canvas)
+{
+    if (!FTransparent) {
+        canvas.Brush.SetStyle(bsSolid);
+        canvas.Brush.SetColor(Color());
+        canvas.FillRect(Rect(0, 0, width(), height()));
+    }
+    canvas.Font = CanvasFont();
+    canvas.Brush.SetStyle(bsClear);
+    PaintCaption(canvas, CaptionAt());
+}
