@@ -1,7 +1,6 @@
 #include "qanimated.h"
 
 #include "buttons/qbmpeffects.h"
-#include "host/tbitmap.h"
 
 #include <algorithm>
 
@@ -97,12 +96,8 @@ void TqAnimated::Paint(TCanvas &canvas)
     const QImage frame = FrameImage(FFrame);
     if (frame.isNull())
         return;
-    if (FTransparent) {
-        TBitmap b, strip;
-        b.Assign(frame);
-        strip.Assign(FStrip);
-        TransparentBlt(canvas, 0, 0, b, TransparentColorOf(strip));
-    } else {
+    if (FTransparent)
+        TransparentBlt(canvas, 0, 0, frame, TransparentColorOf(FStrip));
+    else
         canvas.Draw(0, 0, frame);
-    }
 }

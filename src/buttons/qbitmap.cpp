@@ -1,7 +1,6 @@
 #include "qbitmap.h"
 
 #include "buttons/qbmpeffects.h"
-#include "host/tbitmap.h"
 
 QRect BitmapPlace(QSize control, QSize picture, bool stretch, bool proportional, bool center)
 {
@@ -55,15 +54,10 @@ void TqBitmap::Paint(TCanvas &canvas)
         const QImage shown = place.size() == FPicture.size()
                                  ? FPicture
                                  : FPicture.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation);
-        if (FTransparent) {
-            TBitmap b;
-            b.Assign(shown);
-            TBitmap key;
-            key.Assign(FPicture);
-            TransparentBlt(canvas, place.x(), place.y(), b, TransparentColorOf(key));
-        } else {
+        if (FTransparent)
+            TransparentBlt(canvas, place.x(), place.y(), shown, TransparentColorOf(FPicture));
+        else
             canvas.Draw(place.x(), place.y(), shown);
-        }
     }
     emit OnPaint(this);
 }

@@ -31,9 +31,14 @@ QRgb toQRgb(TColor color) { return ColorToQRgb(color) | 0xFF000000u; }
 
 TColor TransparentColorOf(const TBitmap &bitmap)
 {
-    if (bitmap.Empty())
+    return TransparentColorOf(bitmap.Image());
+}
+
+TColor TransparentColorOf(const QImage &image)
+{
+    if (image.isNull())
         return clBlack;
-    return QColorToColor(QColor::fromRgb(bitmap.Image().pixel(0, bitmap.Height() - 1)));
+    return QColorToColor(QColor::fromRgb(image.pixel(0, image.height() - 1)));
 }
 
 void BMPRotate(TBitmap &bitmap, double degrees)
@@ -96,7 +101,7 @@ void LightenBMP(TBitmap &bitmap, int percent)
 void GreyBMP(TBitmap &bitmap)
 {
     eachPixel(bitmap, [](QRgb c, int, int) {
-        const int g = (299 * qRed(c) + 587 * qGreen(c) + 114 * qBlue(c) + 500) / 1000;
+        const int g = Luminance(c);
         return qRgb(g, g, g);
     });
 }
@@ -111,11 +116,16 @@ void RasterBMP(TBitmap &bitmap, TColor color)
 
 void TransparentBlt(TCanvas &canvas, int x, int y, const TBitmap &source, TColor key)
 {
+    TransparentBlt(canvas, x, y, source.Image(), key);
+}
+
+void TransparentBlt(TCanvas &canvas, int x, int y, const QImage &source, TColor key)
+{
     QImage *target = canvas.Image();
-    if (!target || source.Empty())
+    if (!target || source.isNull())
         return;
     const QRgb k = toQRgb(key) & 0xFFFFFFu;
-    const QImage &from = source.Image();
+    const QImage from = source.convertToFormat(QImage::Format_RGB32);
     for (int sy = 0; sy < from.height(); ++sy) {
         const int ty = y + sy;
         if (ty < 0 || ty >= target->height())

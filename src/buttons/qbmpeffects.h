@@ -26,6 +26,11 @@ void LightenBMP(TBitmap &bitmap, int percent);
 void GreyBMP(TBitmap &bitmap);
 void RasterBMP(TBitmap &bitmap, TColor color);
 void TransparentBlt(TCanvas &canvas, int x, int y, const TBitmap &source, TColor key);
+void TransparentBlt(TCanvas &canvas, int x, int y, const QImage &source, TColor key);
+
+// The grey of a pixel, as GreyBMP makes it.
+inline int Luminance(QRgb p) { return (299 * qRed(p) + 587 * qGreen(p) + 114 * qBlue(p) + 500) / 1000; }
 
 // The transparent colour of a glyph: its bottom-left pixel.
 TColor TransparentColorOf(const TBitmap &bitmap);
+TColor TransparentColorOf(const QImage &image);

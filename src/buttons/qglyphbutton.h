@@ -15,7 +15,9 @@
 #include "buttons/qbmpeffects.h"
 #include "buttons/qcolorbutton.h"
 
+#include <QIcon>
 #include <QPainter>
+#include <QPixmap>
 
 struct TGlyphPlaces
 {
@@ -92,7 +94,7 @@ protected:
                 for (int y = 0; y < grey.height(); ++y)
                     for (int x = 0; x < grey.width(); ++x) {
                         const QRgb p = grey.pixel(x, y);
-                        const int g = (299 * qRed(p) + 587 * qGreen(p) + 114 * qBlue(p) + 500) / 1000;
+                        const int g = Luminance(p);
                         grey.setPixel(x, y, qRgba(g, g, g, (x + y) & 1 ? 0 : qAlpha(p)));
                     }
                 glyph = grey;
@@ -101,23 +103,83 @@ protected:
             painter.drawImage(at, glyph);
             return;
         }
-        TBitmap b;
-        b.Assign(glyph);
-        const TColor key = TransparentColorOf(b);
+        const TColor key = TransparentColorOf(glyph);
         if (!enabled) {
+            TBitmap b;
+            b.Assign(glyph);
             GreyBMP(b);
-            TBitmap grey;
-            grey.Assign(b.Image());
+            // The key stays the key: greyed the same way, it is known again.
+            const TColor greyKey = TransparentColorOf(b);
             RasterBMP(b, this->Color());
-            // The key stays the key: grey it the same way to know it again.
-            TransparentBlt(canvas, at.x(), at.y(), b, TransparentColorOf(grey));
+            TransparentBlt(canvas, at.x(), at.y(), b, greyKey);
             return;
         }
-        TransparentBlt(canvas, at.x(), at.y(), b, key);
+        TransparentBlt(canvas, at.x(), at.y(), glyph, key);
     }
 
 private:
     Buttons::TButtonLayout FLayout = Buttons::blGlyphLeft;
     int FSpacing = 4;
     int FMargin = -1;
+};
+
+// The bitmap glyph and the glyph for pressed (none: the glyph moves).
+template <class Base>
+class TBitmapGlyphButton : public TGlyphButton<Base>
+{
+public:
+    QPixmap Glyph() const { return QPixmap::fromImage(FGlyph); }
+    void SetGlyph(const QPixmap &glyph) { setGlyph(FGlyph, glyph); }
+    QPixmap GlyphDown() const { return QPixmap::fromImage(FGlyphDown); }
+    void SetGlyphDown(const QPixmap &glyph) { setGlyph(FGlyphDown, glyph); }
+
+protected:
+    explicit TBitmapGlyphButton(QWidget *parent) : TGlyphButton<Base>(parent) {}
+    QImage GlyphImage(bool pressed) const override { return pressed && !FGlyphDown.isNull() ? FGlyphDown : FGlyph; }
+
+private:
+    void setGlyph(QImage &field, const QPixmap &glyph)
+    {
+        field = glyph.toImage().convertToFormat(QImage::Format_RGB32);
+        this->Invalidate();
+    }
+
+    QImage FGlyph, FGlyphDown;
+};
+
+// The icon, drawn at IconSize pixels (the icon's nearest size).
+template <class Base>
+class TIconGlyphButton : public TGlyphButton<Base>
+{
+public:
+    QIcon Icon() const { return FIcon; }
+    void SetIcon(const QIcon &icon)
+    {
+        FIcon = icon;
+        pick();
+    }
+    int IconSize() const { return FIconSize; }
+    void SetIconSize(int size)
+    {
+        FIconSize = qMax(1, size);
+        pick();
+    }
+
+protected:
+    explicit TIconGlyphButton(QWidget *parent) : TGlyphButton<Base>(parent) {}
+    QImage GlyphImage(bool) const override { return FImage; }
+    bool GlyphHasAlpha() const override { return true; }
+
+private:
+    void pick()
+    {
+        FImage = FIcon.isNull()
+                     ? QImage()
+                     : FIcon.pixmap(QSize(FIconSize, FIconSize)).toImage().convertToFormat(QImage::Format_ARGB32);
+        this->Invalidate();
+    }
+
+    QIcon FIcon;
+    int FIconSize = 16;
+    QImage FImage;
 };

@@ -5,10 +5,7 @@
 #include "buttons/qcolorbtn.h"
 #include "buttons/qglyphbutton.h"
 
-#include <QIcon>
-#include <QPixmap>
-
-class TqIconColBtn : public TGlyphButton<TqColorBtn>
+class TqIconColBtn : public TIconGlyphButton<TqColorBtn>
 {
     Q_OBJECT
     Q_PROPERTY(Buttons::TButtonLayout Layout READ Layout WRITE SetLayout)
@@ -18,21 +15,5 @@ class TqIconColBtn : public TGlyphButton<TqColorBtn>
     Q_PROPERTY(int IconSize READ IconSize WRITE SetIconSize)
 
 public:
-    explicit TqIconColBtn(QWidget *parent = nullptr) : TGlyphButton<TqColorBtn>(parent) {}
-
-    // The icon, drawn at IconSize pixels (the icon's nearest size).
-    QIcon Icon() const { return FIcon; }
-    void SetIcon(const QIcon &icon);
-    int IconSize() const { return FIconSize; }
-    void SetIconSize(int size);
-
-protected:
-    QImage GlyphImage(bool) const override { return FImage; }
-    bool GlyphHasAlpha() const override { return true; }
-
-private:
-    void pick();
-    QIcon FIcon;
-    int FIconSize = 16;
-    QImage FImage;
+    explicit TqIconColBtn(QWidget *parent = nullptr) : TIconGlyphButton<TqColorBtn>(parent) {}
 };

@@ -4,10 +4,7 @@
 #include "buttons/qnwcolorbtn.h"
 #include "buttons/qglyphbutton.h"
 
-#include <QIcon>
-#include <QPixmap>
-
-class TqNWBitColBtn : public TGlyphButton<TqNWColorBtn>
+class TqNWBitColBtn : public TBitmapGlyphButton<TqNWColorBtn>
 {
     Q_OBJECT
     Q_PROPERTY(Buttons::TButtonLayout Layout READ Layout WRITE SetLayout)
@@ -17,17 +14,5 @@ class TqNWBitColBtn : public TGlyphButton<TqNWColorBtn>
     Q_PROPERTY(QPixmap GlyphDown READ GlyphDown WRITE SetGlyphDown)
 
 public:
-    explicit TqNWBitColBtn(QWidget *parent = nullptr) : TGlyphButton<TqNWColorBtn>(parent) {}
-
-    // The glyph, and the one shown while pressed (none: the glyph moves).
-    QPixmap Glyph() const { return QPixmap::fromImage(FGlyph); }
-    void SetGlyph(const QPixmap &glyph);
-    QPixmap GlyphDown() const { return QPixmap::fromImage(FGlyphDown); }
-    void SetGlyphDown(const QPixmap &glyph);
-
-protected:
-    QImage GlyphImage(bool pressed) const override { return pressed && !FGlyphDown.isNull() ? FGlyphDown : FGlyph; }
-
-private:
-    QImage FGlyph, FGlyphDown;
+    explicit TqNWBitColBtn(QWidget *parent = nullptr) : TBitmapGlyphButton<TqNWColorBtn>(parent) {}
 };

@@ -4,10 +4,7 @@
 #include "buttons/qnwcolorbtn.h"
 #include "buttons/qglyphbutton.h"
 
-#include <QIcon>
-#include <QPixmap>
-
-class TqNWIconColBtn : public TGlyphButton<TqNWColorBtn>
+class TqNWIconColBtn : public TIconGlyphButton<TqNWColorBtn>
 {
     Q_OBJECT
     Q_PROPERTY(Buttons::TButtonLayout Layout READ Layout WRITE SetLayout)
@@ -17,21 +14,5 @@ class TqNWIconColBtn : public TGlyphButton<TqNWColorBtn>
     Q_PROPERTY(int IconSize READ IconSize WRITE SetIconSize)
 
 public:
-    explicit TqNWIconColBtn(QWidget *parent = nullptr) : TGlyphButton<TqNWColorBtn>(parent) {}
-
-    // The icon, drawn at IconSize pixels (the icon's nearest size).
-    QIcon Icon() const { return FIcon; }
-    void SetIcon(const QIcon &icon);
-    int IconSize() const { return FIconSize; }
-    void SetIconSize(int size);
-
-protected:
-    QImage GlyphImage(bool) const override { return FImage; }
-    bool GlyphHasAlpha() const override { return true; }
-
-private:
-    void pick();
-    QIcon FIcon;
-    int FIconSize = 16;
-    QImage FImage;
+    explicit TqNWIconColBtn(QWidget *parent = nullptr) : TIconGlyphButton<TqNWColorBtn>(parent) {}
 };
