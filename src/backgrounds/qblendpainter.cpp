@@ -8,14 +8,3 @@ void PaintBackgroundBlend(TCanvas &canvas, gradType type, int bands, const TBlen
         throw std::domain_error("Division by zero");
     PaintBlend(canvas, type, bands, blend, 0, 0, w, h, Rect(0, 0, w, h));
 }
-
-void PaintDesignOutline(TCanvas &canvas, int w, int h)
-{
-    const TPenStyle pen = canvas.Pen.Style();
-    const TBrushStyle brush = canvas.Brush.Style();
-    canvas.Pen.SetStyle(psDash);
-    canvas.Brush.SetStyle(bsClear);
-    canvas.Rectangle(0, 0, w, h);
-    canvas.Pen.SetStyle(pen);
-    canvas.Brush.SetStyle(brush);
-}

@@ -14,9 +14,6 @@
 // zero, as the platform's blend does, and raise.
 void PaintBackgroundBlend(TCanvas &canvas, gradType type, int bands, const TBlend &blend, int w, int h);
 
-// The dashed outline that finds an empty-looking control on a designed form.
-void PaintDesignOutline(TCanvas &canvas, int w, int h);
-
 template <class Base>
 class TBlendPainter : public Base
 {

@@ -830,3 +830,14 @@ void Frame3D(TCanvas &canvas, TRect &r, TColor top, TColor bottom, int width)
     canvas.Pen.SetWidth(oldWidth);
     canvas.Pen.SetStyle(oldStyle);
 }
+
+void PaintDesignOutline(TCanvas &canvas, int w, int h)
+{
+    const TPenStyle pen = canvas.Pen.Style();
+    const TBrushStyle brush = canvas.Brush.Style();
+    canvas.Pen.SetStyle(psDash);
+    canvas.Brush.SetStyle(bsClear);
+    canvas.Rectangle(0, 0, w, h);
+    canvas.Pen.SetStyle(pen);
+    canvas.Brush.SetStyle(brush);
+}

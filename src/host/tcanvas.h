@@ -225,3 +225,6 @@ private:
 // Raised or sunken frame: top and left in `top`, bottom and right in
 // `bottom`, `width` pixels deep; `r` comes back shrunk by the frame.
 void Frame3D(TCanvas &canvas, TRect &r, TColor top, TColor bottom, int width);
+// The dashed outline that finds an empty-looking control on a designed form
+// (the pen and brush styles are left as they were).
+void PaintDesignOutline(TCanvas &canvas, int w, int h);

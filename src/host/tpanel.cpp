@@ -94,6 +94,12 @@ void TCustomPanel::PaintPanel(TCanvas &canvas)
     canvas.Brush.SetStyle(bsSolid);
     canvas.Brush.SetColor(Color());
     canvas.FillRect(r);
+    PaintCaption(canvas, r);
+}
+
+// The caption in the middle of `r`'s height, placed as Alignment says.
+void TCustomPanel::PaintCaption(TCanvas &canvas, TRect r)
+{
     if (FCaption.isEmpty())
         return;
     canvas.Brush.SetStyle(bsClear);

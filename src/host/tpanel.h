@@ -38,6 +38,7 @@ public:
 protected:
     // The frame, the bevels, the face and the caption, as panels look.
     void PaintPanel(TCanvas &canvas);
+    void PaintCaption(TCanvas &canvas, TRect r);
     void Paint(TCanvas &canvas) override { PaintPanel(canvas); }
 
 private:

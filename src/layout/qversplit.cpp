@@ -205,19 +205,9 @@ void TqVerSplit::Paint(TCanvas &canvas)
     canvas.Brush.SetStyle(bsSolid);
     canvas.Brush.SetColor(Color());
     canvas.FillRect(Rect(0, 0, w, h));
-    canvas.Brush.SetStyle(bsClear);
-    canvas.Font = CanvasFont();
-    TRect r = Rect(0, 0, w, h);
-    const int th = canvas.TextHeight(QStringLiteral("W"));
-    r.Top = (r.Top + r.Bottom - th) / 2;
-    r.Bottom = r.Top + th;
-    const unsigned align = Alignment() == taLeftJustify ? DT_LEFT : Alignment() == taRightJustify ? DT_RIGHT : DT_CENTER;
-    canvas.DrawText(Caption(), r, align | DT_VCENTER | DT_EXPANDTABS);
-    if (IsDesigning()) {
-        canvas.Pen.SetStyle(psDash);
-        canvas.Rectangle(0, 0, w, h);
-        canvas.Pen.SetStyle(psSolid);
-    }
+    PaintCaption(canvas, Rect(0, 0, w, h));
+    if (IsDesigning())
+        PaintDesignOutline(canvas, w, h);
 }
 
 void TqVerSplit::resizeEvent(QResizeEvent *event)
