@@ -44,7 +44,7 @@ public:
         // one may hang at its start, so a few tries on fresh displays.
         int n = 40 + getpid() % 400;
         bool up = false;
-        for (int attempt = 0; attempt < 3 && !up; ++attempt, ++n) {
+        for (int attempt = 0; attempt < 5 && !up; ++attempt, ++n) {
             while (QFile::exists(QStringLiteral("/tmp/.X%1-lock").arg(n))
                    || QFile::exists(QStringLiteral("/tmp/.X11-unix/X%1").arg(n)))
                 ++n;
