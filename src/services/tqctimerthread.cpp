@@ -71,27 +71,34 @@ void TqcTimerThread::run()
 // thread was stopped meanwhile.
 bool TqcTimerThread::synchronizeTick()
 {
-    std::shared_ptr<Shared> shared = FShared;
-    TqcTimer *timer = FTimer;
+    Shared &s = *FShared;
     {
-        std::lock_guard<std::mutex> lock(shared->mutex);
-        shared->tickDone = false;
+        std::lock_guard<std::mutex> lock(s.mutex);
+        s.tickDone = false;
     }
-    // Posted to the timer itself: if the timer is gone before the call is
-    // delivered, the call goes with it.
-    QMetaObject::invokeMethod(timer, [shared, timer] {
-        bool stopped;
-        {
-            std::lock_guard<std::mutex> lock(shared->mutex);
-            stopped = shared->stop;
-        }
-        if (!stopped)
-            timer->deliverTick();
-        std::lock_guard<std::mutex> lock(shared->mutex);
-        shared->tickDone = true;
-        shared->wake.notify_all();
-    }, Qt::QueuedConnection);
-    std::unique_lock<std::mutex> lock(shared->mutex);
-    shared->wake.wait(lock, [&] { return shared->stop || shared->tickDone; });
-    return !shared->stop;
+    // Posted by name to this object, which lives on the main thread: nothing
+    // this worker allocates is read there (the queued call is Qt's own), and
+    // if the object is destroyed before the call is delivered, the call goes
+    // with it.
+    QMetaObject::invokeMethod(this, "deliverTick", Qt::QueuedConnection);
+    std::unique_lock<std::mutex> lock(s.mutex);
+    s.wake.wait(lock, [&] { return s.stop || s.tickDone; });
+    return !s.stop;
+}
+
+void TqcTimerThread::deliverTick()
+{
+    // The handler may free the timer and with it this object.
+    const std::shared_ptr<Shared> shared = FShared;
+    Shared &s = *shared;
+    bool stopped;
+    {
+        std::lock_guard<std::mutex> lock(s.mutex);
+        stopped = s.stop;
+    }
+    if (!stopped)
+        FTimer->deliverTick();
+    std::lock_guard<std::mutex> lock(s.mutex);
+    s.tickDone = true;
+    s.wake.notify_all();
 }

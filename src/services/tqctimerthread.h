@@ -28,6 +28,8 @@ protected:
 private:
     struct Shared;
     bool synchronizeTick();
+    // The handed-over tick, on the main thread.
+    Q_INVOKABLE void deliverTick();
 
     TqcTimer *FTimer;
     std::shared_ptr<Shared> FShared;
