@@ -164,25 +164,5 @@ QGroupBox *bitmapsSection(QWidget *parent)
     place(nwIcon, 80);
     row(QStringLiteral("TqBitColBtn (left, right, top, disabled), TqNWBitColBtn, TqIconColBtn, TqNWIconColBtn"), buttons);
 
-    auto *labels = new QWidget(box);
-    labels->setFixedSize(520, 40);
-    QFont big = labels->font();
-    big.setPointSize(16);
-    big.setBold(true);
-    auto *raised = new Tq3DLabel(labels);
-    raised->SetFont(big);
-    raised->SetDepth(2);
-    raised->SetCaption(QStringLiteral("RAISED"));
-    raised->move(0, 4);
-    auto *lowered = new Tq3DLabel(labels);
-    lowered->SetFont(big);
-    lowered->SetStyle(Tq3DLabel::ts3DLowered);
-    lowered->SetCaption(QStringLiteral("LOWERED"));
-    lowered->move(140, 4);
-    auto *link = new TqMouseSpot(labels);
-    link->SetCaption(QStringLiteral("point at me, click me"));
-    link->move(300, 10);
-    QObject::connect(link, &TControl::OnClick, link, [link](QObject *) { link->SetCaption(QStringLiteral("clicked")); });
-    row(QStringLiteral("Tq3DLabel raised and lowered, TqMouseSpot"), labels);
     return box;
 }

@@ -118,25 +118,5 @@ QGroupBox *displaysSection(QWidget *parent)
     rect->SetCaption(QStringLiteral("abcdefghijkl"));
     add(QStringLiteral("squares, no gap"), rect);
 
-    // Two peak meters fed fifty times a second from a simulated signal.
-    auto *meters = new QWidget(box);
-    meters->setFixedSize(220, 40);
-    auto *left = new TqcPeakOmeter(meters);
-    left->SetKind(TqcPeakOmeter::pkHorizontal);
-    left->SetBounds(0, 2, 220, 16);
-    left->SetBlocks(30);
-    auto *right = new TqcPeakOmeter(meters);
-    right->SetKind(TqcPeakOmeter::pkHorizontal);
-    right->SetBounds(0, 22, 220, 16);
-    right->SetBlocks(30);
-    auto *feed = new QTimer(meters);
-    QObject::connect(feed, &QTimer::timeout, meters, [left, right, n = 0]() mutable {
-        ++n;
-        const double beat = std::abs(std::sin(n / 7.0)) * (0.6 + 0.4 * std::sin(n / 53.0));
-        left->Push(int(100 * beat));
-        right->Push(int(100 * std::abs(std::sin(n / 5.0 + 1)) * (0.7 + 0.3 * std::cos(n / 41.0))));
-    });
-    feed->start(20);
-    add(QStringLiteral("TqcPeakOmeter, two channels fed live"), meters);
     return box;
 }

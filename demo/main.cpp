@@ -43,7 +43,8 @@ int main(int argc, char **argv)
     layout->addWidget(buttonsSection(&window), 3, 0, 1, 2);
     layout->addWidget(panelsSection(&window), 4, 0, 1, 2);
     layout->addWidget(bitmapsSection(&window), 5, 0, 1, 2);
-    layout->setRowStretch(6, 1);
+    layout->addWidget(labelsSection(&window), 6, 0, 1, 2);
+    layout->setRowStretch(7, 1);
     // The gallery's own wallpaper: a light blend behind every section.
     auto *wallpaper = new TqBackground(&window);
     wallpaper->SetBackType(TqBackground::btBlend);

@@ -28,5 +28,6 @@ QGroupBox *controlsSection(QWidget *parent);
 QGroupBox *buttonsSection(QWidget *parent);
 QGroupBox *panelsSection(QWidget *parent);
 QGroupBox *bitmapsSection(QWidget *parent);
+QGroupBox *labelsSection(QWidget *parent);
 class TqShowApp;
 QGroupBox *servicesSection(QWidget *parent, TqShowApp *info);

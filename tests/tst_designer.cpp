@@ -7,10 +7,13 @@
 #include "backgrounds/blend.h"
 #include "buttons/qanimate.h"
 #include "design/qbitmapeditor.h"
+#include "design/qangleeditor.h"
 #include "design/qgaugeeditor.h"
+#include "design/qhinteditor.h"
 #include "design/qshapebtneditor.h"
 #include "displays/qseg.h"
 #include "indicators/qgauge.h"
+#include "labels/labels.h"
 #include "services/mystd.h"
 #include "services/std2.h"
 
@@ -30,6 +33,8 @@
 #include <QBuffer>
 #include <QTemporaryDir>
 #include <QComboBox>
+#include <QDial>
+#include <QPlainTextEdit>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QMetaProperty>
@@ -85,6 +90,13 @@ QVariant otherValue(const QMetaProperty &p, const QVariant &v)
     }
 }
 
+QString describe(const QVariant &v)
+{
+    if (v.metaType().id() == QMetaType::QStringList)
+        return v.toStringList().join(QLatin1Char('|'));
+    return v.toString();
+}
+
 // The stored properties a component adds to QWidget's. Pictures are left
 // out (icons too): a form stores them as references to files or resources, which
 // Designer's own resource handling keeps.
@@ -92,10 +104,16 @@ QList<QMetaProperty> storedProperties(const QObject *o)
 {
     QList<QMetaProperty> out;
     const QMetaObject *m = o->metaObject();
-    for (int i = QWidget::staticMetaObject.propertyCount(); i < m->propertyCount(); ++i)
-        if (m->property(i).isStored() && m->property(i).isWritable() && qstrcmp(m->property(i).name(), "Name")
-            && m->property(i).metaType().id() != QMetaType::QPixmap && m->property(i).metaType().id() != QMetaType::QIcon)
-            out << m->property(i);
+    for (int i = QWidget::staticMetaObject.propertyCount(); i < m->propertyCount(); ++i) {
+        const QMetaProperty p = m->property(i);
+        // A component built on a Qt widget (the list box) stores its own
+        // properties; the Qt widget's are Designer's business.
+        if (p.enclosingMetaObject()->className()[0] == 'Q')
+            continue;
+        if (p.isStored() && p.isWritable() && qstrcmp(p.name(), "Name") && p.metaType().id() != QMetaType::QPixmap
+            && p.metaType().id() != QMetaType::QIcon)
+            out << p;
+    }
     return out;
 }
 
@@ -143,6 +161,8 @@ private slots:
     void calculatorResultsAreReadOnly();
     void gaugeCaptionStyleFromItsEditor();
     void shapeFromTheShapeEditor();
+    void angleFromTheDial();
+    void hintFromTheHintEditor();
     void verbsOpenTheHelpAtTheContextNumber();
     void helpPagesAreBuilt();
     void uicCompiledFormMatchesTheLoadedOne();
@@ -280,7 +300,7 @@ void tst_Designer::formRoundTripThroughDesigner()
         for (const QMetaProperty &p : storedProperties(designed))
             QVERIFY2(p.read(runtime) == p.read(designed) || takenFromTheSystem(runtime, p),
                      qPrintable(QStringLiteral("%1.%2: %3 after loading, %4 in the designer")
-                                    .arg(e.className, p.name(), p.read(runtime).toString(), p.read(designed).toString())));
+                                    .arg(e.className, p.name(), describe(p.read(runtime)), describe(p.read(designed)))));
         if (!e.visual) {
             QVERIFY(runtime->isHidden());   // a face only while designing
             QVERIFY(!dynamic_cast<TComponentCore *>(runtime)->IsDesigning());
@@ -395,6 +415,74 @@ void tst_Designer::shapeFromTheShapeEditor()
     QVERIFY(d->form->contents().contains(QStringLiteral("sbPlus")));
 }
 
+void tst_Designer::angleFromTheDial()
+{
+    // The dial's six o'clock start and clockwise turn against the label's
+    // anticlockwise angle from three o'clock.
+    QCOMPARE(TqAngleEditor::DialValue(0), 270);
+    QCOMPARE(TqAngleEditor::DialValue(90), 180);
+    QCOMPARE(TqAngleEditor::AngleOfDial(0), 270);
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqAngleLabel\" name=\"label\"><property name=\"Angle\"><number>30</number></property>"
+        "</widget></widget></ui>")));
+    auto *label = d->form->mainContainer()->findChild<TqAngleLabel *>("label");
+    QCOMPARE(label->Angle(), 30);
+    QAction *edit = d->extension<QDesignerTaskMenuExtension>(label)->preferredEditAction();
+    QVERIFY(edit);
+    edit->trigger();
+    auto *editor = label->window()->findChild<TqAngleEditor *>();
+    QVERIFY(editor);
+    QCOMPARE(editor->Angle(), 30);
+    QCOMPARE(editor->Dial()->value(), 240);
+    editor->Dial()->setFocus();
+    QTest::keyClick(editor->Dial(), Qt::Key_PageUp);   // a notch on: clockwise, so the angle goes down
+    QCOMPARE(editor->Angle(), 15);
+    editor->accept();
+    QCOMPARE(label->Angle(), 15);
+    QVERIFY(d->form->contents().contains(QStringLiteral("<number>15</number>")));
+    d->form->commandHistory()->undo();
+    QCOMPARE(label->Angle(), 30);
+}
+
+void tst_Designer::hintFromTheHintEditor()
+{
+    // A control that publishes Hint, one whose hint is its tool tip, and a
+    // non-visual one without a hint.
+    QVERIFY(d->form->setContents(QStringLiteral(
+        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
+        "<widget class=\"TqLed\" name=\"led\"/><widget class=\"Tq3DLabel\" name=\"label\"/>"
+        "<widget class=\"TqcTimer\" name=\"timer\"/></widget></ui>")));
+    const auto hintAction = [&](QWidget *w) -> QAction * {
+        for (QAction *a : d->extension<QDesignerTaskMenuExtension>(w)->taskActions())
+            if (a->objectName() == QLatin1String("qcolEditHint"))
+                return a;
+        return nullptr;
+    };
+    QVERIFY(!hintAction(d->form->mainContainer()->findChild<QWidget *>("timer")));
+    for (const char *name : {"led", "label"}) {
+        QWidget *w = d->form->mainContainer()->findChild<QWidget *>(name);
+        QAction *edit = hintAction(w);
+        QVERIFY2(edit, name);
+        QVERIFY(d->extension<QDesignerTaskMenuExtension>(w)->preferredEditAction() != edit);
+        edit->trigger();
+        auto *editor = w->window()->findChild<TqHintEditor *>();
+        QVERIFY(editor);
+        QTest::keyClicks(editor->Editor(), QStringLiteral("Lamp"));
+        QTest::keyClick(editor->Editor(), Qt::Key_Return);
+        QTest::keyClicks(editor->Editor(), QStringLiteral("second line"));
+        editor->accept();
+        QTRY_VERIFY(!w->window()->findChild<TqHintEditor *>());
+        // Stored with the form (Designer keeps a tool tip off the widget it
+        // designs), and one undoable change.
+        QVERIFY2(d->form->contents().contains(QStringLiteral("Lamp\nsecond line")), name);
+        if (QLatin1String(name) == "led")
+            QCOMPARE(static_cast<TqLed *>(w)->Hint(), QStringLiteral("Lamp\nsecond line"));
+        d->form->commandHistory()->undo();
+        QVERIFY(!d->form->contents().contains(QStringLiteral("second line")));
+    }
+}
+
 void tst_Designer::bitmapFromTheBitmapEditor()
 {
     QTemporaryDir dir;
@@ -476,8 +564,9 @@ void tst_Designer::verbsOpenTheHelpAtTheContextNumber()
         auto *menu = d->extension<QDesignerTaskMenuExtension>(w);
         QVERIFY(menu);
         const QList<QAction *> actions = menu->taskActions();
-        // The verbs; then, for the label with its colours, a separator and "Colours...".
-        QCOMPARE(actions.size(), QLatin1String(name) == "label" ? 5 : 3);
+        // The verbs; then, for the label, its hint editor and the colours
+        // dialog, each after a separator.
+        QCOMPARE(actions.size(), QLatin1String(name) == "label" ? 7 : 3);
         QCOMPARE(actions[0]->text(), QStringLiteral("Help for component"));
         QCOMPARE(actions[1]->text(), QStringLiteral("Help for QuovarCollection"));
         QCOMPARE(actions[2]->text(), QStringLiteral("About QuovarCollection..."));

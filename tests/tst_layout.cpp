@@ -2,8 +2,10 @@
 // the controls on either side moved by exactly the bar's distance, a real
 // drag of the bar, presses passed to the parent; the move panel dragged,
 // held inside a parent panel but not a form, vetoed, and stuck to an edge
-// by placement or by alignment.
+// by placement or by alignment; the tabbed list box's stops, columns and
+// selection.
 #include "layout/qsplit.h"
+#include "layout/qtablistbox.h"
 #include "services/mystd.h"
 
 #include "testutil.h"
@@ -39,6 +41,10 @@ private slots:
     void barDraggedByTheMouse();
     void movePanelDraggedHeldAndVetoed();
     void movePanelSticks();
+    void badTabStopsRaise();
+    void partsGoToTheNextStop();
+    void columnsAlignOnScreen();
+    void listKeysAndClicks();
 };
 
 void tst_Layout::barLimitsAndThickness()
@@ -176,6 +182,115 @@ void tst_Layout::movePanelSticks()
     drag(panel, QPoint(10, 10), QPoint(20, 80));
     QCOMPARE(panel->Top(), 0);
     QCOMPARE(panel->Left(), 0);
+}
+
+void tst_Layout::badTabStopsRaise()
+{
+    QCOMPARE(ParseTabStops(QStringLiteral(" 40, 80;120 ")), (QList<int>{40, 80, 120}));
+    const auto raises = [](const QString &stops, const char *message) {
+        try {
+            ParseTabStops(stops);
+        } catch (const EqTabListboxError &e) {
+            QCOMPARE(QString::fromUtf8(e.what()), QString::fromLatin1(message));
+            return;
+        }
+        QFAIL(qPrintable(QStringLiteral("no error for \"%1\"").arg(stops)));
+    };
+    raises(QStringLiteral("40 -5"), "Tab stop -5 is negative");
+    raises(QStringLiteral("80 40"), "Tab stops must ascend: 40 follows 80");
+    raises(QStringLiteral("40 40"), "Tab stops must ascend: 40 follows 40");
+    raises(QStringLiteral("40 wide"), "\"wide\" is not a tab stop");
+    // From the property: raised, and the stops stay as they were.
+    TqTabListbox box;
+    box.SetTabStops(QStringLiteral("30 60"));
+    QVERIFY_THROWS_EXCEPTION(EqTabListboxError, box.SetTabStops(QStringLiteral("60 30")));
+    QCOMPARE(box.Tabs(), (QList<int>{30, 60}));
+    // In the designer the message is shown instead and nothing changes.
+    box.SetDesigning(true);
+    QTest::ignoreMessage(QtCriticalMsg, "Tab stop -1 is negative");
+    box.SetTabStops(QStringLiteral("-1"));
+    QCOMPARE(box.TabStops(), QStringLiteral("30 60"));
+}
+
+void tst_Layout::partsGoToTheNextStop()
+{
+    // A part starts at the first stop past the end of the one before; past
+    // the last stop the last interval repeats.
+    QCOMPARE(TabColumns({10, 60, 5, 5}, {50, 100}, 64), (QList<int>{0, 50, 150, 200}));
+    // A part that ends exactly on a stop goes on to the next.
+    QCOMPARE(TabColumns({50, 5}, {50, 100}, 64), (QList<int>{0, 100}));
+    // One stop: every so many pixels; none: the default step.
+    QCOMPARE(TabColumns({5, 5, 45}, {40}, 64), (QList<int>{0, 40, 80}));
+    QCOMPARE(TabColumns({5, 70, 1}, {}, 64), (QList<int>{0, 64, 192}));
+    // Stops in characters are the font's average character width.
+    TqTabListbox box;
+    box.SetTabs({10, 20});
+    box.SetTabUnits(TqTabListbox::tuChars);
+    const int unit = QFontMetrics(box.font()).averageCharWidth();
+    QCOMPARE(box.PixelTabs(), (QList<int>{10 * unit, 20 * unit}));
+}
+
+void tst_Layout::columnsAlignOnScreen()
+{
+    ShownOnForm<TqTabListbox> shown;
+    TqTabListbox *box = shown.control;
+    QFont f = box->font();
+    f.setPixelSize(13);
+    f.setStyleStrategy(QFont::NoAntialias);
+    box->setFont(f);
+    box->SetFontColor(clRed);
+    box->SetColor(clWhite);
+    box->resize(190, 80);
+    box->SetTabStops(QStringLiteral("70 120"));
+    box->SetItems({QStringLiteral("A\tX\t1"), QStringLiteral("Amplitude\tX\t1")});
+    QCoreApplication::processEvents();
+    QCOMPARE(box->ColumnsOf(0).mid(1), box->ColumnsOf(1).mid(1));
+    // The leftmost red pixel right of each stop is at the same x in both rows.
+    const QImage shot = box->viewport()->grab().toImage();
+    const auto firstInk = [&](int row, int fromX) {
+        const QRect r = box->visualRect(box->model()->index(row, 0));
+        for (int x = fromX; x < r.right(); ++x)
+            for (int y = r.top(); y <= r.bottom(); ++y)
+                if (shot.pixel(x, y) == qRgb(255, 0, 0))
+                    return x;
+        return -1;
+    };
+    const int stop = box->ColumnsOf(0)[1];
+    QVERIFY(firstInk(0, stop) >= stop && firstInk(0, stop) < stop + 4);
+    QCOMPARE(firstInk(1, stop), firstInk(0, stop));
+    QCOMPARE(firstInk(1, box->ColumnsOf(1)[2]), firstInk(0, box->ColumnsOf(0)[2]));
+    // Between the short first part and the stop: the tab's blank.
+    QCOMPARE(firstInk(0, TqTabListbox::TextMargin + 12), firstInk(0, stop));
+}
+
+void tst_Layout::listKeysAndClicks()
+{
+    ShownOnForm<TqTabListbox> shown;
+    TqTabListbox *box = shown.control;
+    box->resize(150, 100);
+    box->SetItems({QStringLiteral("1\tone"), QStringLiteral("2\ttwo"), QStringLiteral("3\tthree")});
+    QSignalSpy clicks(box, &TqTabListbox::OnClick), doubles(box, &TqTabListbox::OnDblClick);
+    box->SetItemIndex(0);   // from code: no event
+    QCOMPARE(box->ItemIndex(), 0);
+    QCOMPARE(clicks.count(), 0);
+    QTest::keyClick(box, Qt::Key_Down);
+    QCOMPARE(box->ItemIndex(), 1);
+    QCOMPARE(clicks.count(), 1);
+    QTest::keyClick(box, Qt::Key_End);
+    QCOMPARE(box->ItemIndex(), 2);
+    QCOMPARE(clicks.count(), 2);
+    const QPoint first = box->visualRect(box->model()->index(0, 0)).center();
+    QTest::mouseClick(box->viewport(), Qt::LeftButton, {}, first);
+    QCOMPARE(box->ItemIndex(), 0);
+    QCOMPARE(clicks.count(), 3);
+    QTest::mouseClick(box->viewport(), Qt::LeftButton, {}, first);   // the same item again: nothing new
+    QCOMPARE(clicks.count(), 3);
+    QTest::mouseDClick(box->viewport(), Qt::LeftButton, {}, first);
+    QCOMPARE(doubles.count(), 1);
+    QTest::mouseDClick(box->viewport(), Qt::LeftButton, {}, QPoint(5, 95));   // below the items
+    QCOMPARE(doubles.count(), 1);
+    box->SetItemIndex(7);   // out of range: nothing selected
+    QCOMPARE(box->ItemIndex(), -1);
 }
 
 QTEST_MAIN(tst_Layout)

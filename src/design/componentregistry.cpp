@@ -9,6 +9,7 @@
 #include "instruments/qpanel.h"
 #include "labels/labels.h"
 #include "layout/qsplit.h"
+#include "layout/qtablistbox.h"
 #include "services/mystd.h"
 #include "slidebar/slidebar.h"
 #include "services/std2.h"
@@ -88,6 +89,32 @@ void poseScope(QWidget *w)
     }
 }
 
+void poseTabListbox(QWidget *w)
+{
+    auto *box = static_cast<TqTabListbox *>(w);
+    box->SetTabStops(QStringLiteral("14"));
+    box->SetItems({QStringLiteral("1\tA"), QStringLiteral("2\tB"), QStringLiteral("3\tC")});
+    box->SetItemIndex(1);
+}
+
+void poseBigLabel(QWidget *w)
+{
+    auto *label = static_cast<TqBigLabel *>(w);
+    label->SetShadowDepth(2);
+    label->SetCaption(QStringLiteral("A"));
+}
+
+void poseAngleLabel(QWidget *w)
+{
+    auto *label = static_cast<TqAngleLabel *>(w);
+    QFont f = label->Font();
+    f.setPointSize(14);
+    f.setBold(true);
+    label->SetFont(f);
+    label->SetCaption(QStringLiteral("ab"));
+    label->SetAngle(45);
+}
+
 void posePanelMeter(QWidget *w) { static_cast<TqPanelMeter *>(w)->SetValue(65); }
 
 template <class Button>
@@ -136,6 +163,10 @@ void poseSlideBar(QWidget *w)
 // Widget-box order: the pages in order, within a page the order of the
 // palette rows; the tray icon closes the second page.
 const std::vector<TComponentEntry> kComponents = {
+    {"TqTabListbox", "layout/qtablistbox.h", 0, 5, "Tabbed list box",
+     "A list box whose items are rows of columns: each item is split at its tab characters "
+     "and the parts are drawn at tab stops set in pixels or characters.",
+     make<TqTabListbox>, poseTabListbox, true},
     {"TqBitmap", "buttons/qanimate.h", 0, 6, "Picture",
      "A picture at its size, centred, or stretched (keeping its proportions if asked); the "
      "transparent colour can let what lies beneath show.",
@@ -234,6 +265,11 @@ const std::vector<TComponentEntry> kComponents = {
      "when maximised, around the taskbar if asked; the program may adjust each query. "
      "Invisible at run time.",
      make<TqMinMax>, nullptr, false},
+    {"TqHint", "labels/labels.h", 1, 21, "Hint window",
+     "Shows the application's tips in a window of its own look: colours, font, frame, shadow, "
+     "and a rectangle, rounded or balloon shape; sets when tips show and how long they stay. "
+     "Invisible at run time.",
+     make<TqHint>, nullptr, false},
     {"TqShowApp", "services/mystd.h", 1, 22, "Application information",
      "Facts about the machine and the process, the application's title, icon and hint "
      "settings, single instance with a hand-over to the first, end-of-session events and the "
@@ -241,6 +277,11 @@ const std::vector<TComponentEntry> kComponents = {
      make<TqShowApp>, nullptr, false,
      "WinDir,SystemDir,EnvironmentLines,WindowKind,WinVerMajor,WinVerMinor,WinVerBuild,WindowsString,"
      "CPUType,CPUString,ComputerName,UserName,IPHostName,IPHostAddress"},
+    {"TqSplashForm", "services/mystd.h", 1, 43, "Splash form",
+     "A picture with a caption in the middle of the screen while the application starts: it "
+     "goes once its form has shown and a minimum time has passed, or on a click. Invisible "
+     "at run time.",
+     make<TqSplashForm>, nullptr, false},
     {"TqTitleBar", "services/mystd.h", 1, 20, "Title bar",
      "Hides and shows the title bar of the form it is on, keeping its client area; while the "
      "title bar is hidden the form is dragged by its client area. Invisible at run time.",
@@ -263,10 +304,17 @@ const std::vector<TComponentEntry> kComponents = {
      "moves as events, a menu for each button, the default action on a double-click, and the "
      "form it is on hidden if asked. Invisible at run time.",
      make<TqTrayIcon>, nullptr, false},
+    {"TqBigLabel", "labels/labels.h", 2, 2, "Big label",
+     "A large caption with an outline round its letters and a shadow beneath them.",
+     make<TqBigLabel>, poseBigLabel, true},
     {"Tq3DLabel", "labels/labels.h", 2, 3, "3D label",
      "A caption raised from the panel or pressed into it, with highlight and shadow colours and "
      "a depth.",
      make<Tq3DLabel>, nullptr, true},
+    {"TqAngleLabel", "labels/labels.h", 2, 4, "Angle label",
+     "A caption drawn at any angle, turning about its centre or one of its ends, the control "
+     "sized to hold it.",
+     make<TqAngleLabel>, poseAngleLabel, true},
     {"TqShapeBtn", "buttons/qanimate.h", 2, 27, "Shape button",
      "A push button shaped as a rectangle, a triangle, a plus, a minus, an ellipse or a shape "
      "of the application's; a press outside the shape goes to what lies beneath.",

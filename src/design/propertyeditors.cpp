@@ -1,6 +1,8 @@
 #include "propertyeditors.h"
 
+#include "qangleeditor.h"
 #include "qbitmapeditor.h"
+#include "qhinteditor.h"
 #include "qgaugeeditor.h"
 #include "qshapebtneditor.h"
 
@@ -42,6 +44,20 @@ QDialog *createGlyphEditor(QWidget *component, QWidget *parent) { return bitmapE
 QDialog *createGlyphDownEditor(QWidget *component, QWidget *parent) { return bitmapEditor(component, "GlyphDown", parent); }
 QVariant bitmapEditorValue(QDialog *dialog) { return static_cast<TqBitmapEditor *>(dialog)->FileName(); }
 
+QDialog *createAngleEditor(QWidget *component, QWidget *parent)
+{
+    return new TqAngleEditor(component->property("Angle").toInt(), qobject_cast<TqAngleLabel *>(component), parent);
+}
+
+QVariant angleEditorValue(QDialog *dialog) { return static_cast<TqAngleEditor *>(dialog)->Angle(); }
+
+QDialog *createHintEditor(QWidget *component, QWidget *parent)
+{
+    return new TqHintEditor(component->property(HintPropertyOf(component)).toString(), parent);
+}
+
+QVariant hintEditorValue(QDialog *dialog) { return static_cast<TqHintEditor *>(dialog)->Hint(); }
+
 const std::vector<TPropertyEditorEntry> kEditors = {
     {"TqShapeBtn", "Shape", "Shape...", createShapeEditor, shapeEditorValue},
     {"TqGauge", "CaptionStyle", "Caption Style...", createGaugeEditor, gaugeEditorValue},
@@ -53,17 +69,36 @@ const std::vector<TPropertyEditorEntry> kEditors = {
     {"TqBitColBtn", "GlyphDown", "Pressed Glyph...", createGlyphDownEditor, bitmapEditorValue},
     {"TqNWBitColBtn", "Glyph", "Glyph...", createGlyphEditor, bitmapEditorValue},
     {"TqNWBitColBtn", "GlyphDown", "Pressed Glyph...", createGlyphDownEditor, bitmapEditorValue},
+    {"TqSplashForm", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
+    {"TqAngleLabel", "Angle", "Angle...", createAngleEditor, angleEditorValue},
+    // Every component with a hint: its published Hint, or a control's tool
+    // tip, which is its hint.
+    {"QWidget", "Hint", "Hint...", createHintEditor, hintEditorValue},
 };
 
 } // namespace
 
 const std::vector<TPropertyEditorEntry> &PropertyEditors() { return kEditors; }
 
+const char *HintPropertyOf(const QWidget *component)
+{
+    if (component->metaObject()->indexOfProperty("Hint") >= 0)
+        return "Hint";
+    return component->inherits("TControl") ? "toolTip" : nullptr;
+}
+
+const char *EditedProperty(const TPropertyEditorEntry &editor, const QWidget *component)
+{
+    if (qstrcmp(editor.property, "Hint") == 0)
+        return HintPropertyOf(component);
+    return editor.property;
+}
+
 std::vector<const TPropertyEditorEntry *> PropertyEditorsFor(const QWidget *component)
 {
     std::vector<const TPropertyEditorEntry *> out;
     for (const TPropertyEditorEntry &e : kEditors)
-        if (component->inherits(e.className))
+        if (component->inherits(e.className) && EditedProperty(e, component))
             out.push_back(&e);
     return out;
 }

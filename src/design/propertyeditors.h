@@ -24,5 +24,10 @@ struct TPropertyEditorEntry
 };
 
 const std::vector<TPropertyEditorEntry> &PropertyEditors();
+// The property an editor edits on a component (the hint editor edits a
+// control's tool tip where the control publishes no Hint); null when the
+// editor does not apply.
+const char *EditedProperty(const TPropertyEditorEntry &editor, const QWidget *component);
+const char *HintPropertyOf(const QWidget *component);
 // The editors that apply to a component.
 std::vector<const TPropertyEditorEntry *> PropertyEditorsFor(const QWidget *component);

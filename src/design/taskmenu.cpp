@@ -7,11 +7,37 @@
 #include "propertyeditors.h"
 
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
+#include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
 
 #include <QMetaProperty>
 
 #include <QWidget>
+
+// Designer keeps a text property in a value of its own, which also carries
+// the text's translation data; its one setter is all this needs of it.
+namespace qdesigner_internal {
+class PropertySheetStringValue
+{
+public:
+    void setValue(const QString &value);
+};
+} // namespace qdesigner_internal
+
+namespace {
+
+// `current` (the sheet's value of a text property) holding `text` instead.
+QVariant designerText(QVariant current, const QString &text)
+{
+    if (qstrcmp(current.metaType().name(), "qdesigner_internal::PropertySheetStringValue") != 0)
+        return text;
+    static_cast<qdesigner_internal::PropertySheetStringValue *>(current.data())->setValue(text);
+    return current;
+}
+
+} // namespace
 
 TTaskMenu::TTaskMenu(QWidget *component, int helpContext, QObject *parent)
     : QObject(parent), FComponent(component), FEditor(helpContext)
@@ -31,20 +57,22 @@ TTaskMenu::TTaskMenu(QWidget *component, int helpContext, QObject *parent)
         FActions << separator;
     }
     for (const TPropertyEditorEntry *editor : editors) {
+        const QString property = QString::fromLatin1(EditedProperty(*editor, component));
         auto *action = new QAction(QString::fromLatin1(editor->verb), this);
         action->setObjectName(QStringLiteral("qcolEdit") + QLatin1String(editor->property));
-        connect(action, &QAction::triggered, this, [this, editor] {
+        connect(action, &QAction::triggered, this, [this, editor, property] {
             if (!FComponent)
                 return;
             QDialog *dialog = editor->create(FComponent, FComponent->window());
             dialog->setAttribute(Qt::WA_DeleteOnClose);
-            connect(dialog, &QDialog::accepted, this, [this, editor, dialog] {
-                writeBack(QString::fromLatin1(editor->property), editor->value(dialog));
+            connect(dialog, &QDialog::accepted, this, [this, editor, dialog, property] {
+                writeBack(property, editor->value(dialog));
             });
             dialog->open();
         });
         FActions << action;
-        if (!FPreferred)
+        // A double-click opens the component's own editor, not the hint's.
+        if (!FPreferred && qstrcmp(editor->property, "Hint") != 0)
             FPreferred = action;
     }
     // Where the component has colour properties: the dialog that also
@@ -92,6 +120,12 @@ void TTaskMenu::writeBack(const QString &property, const QVariant &given)
         && given.metaType() == QMetaType::fromType<QString>())
         value = form ? DesignerPixmapValue(given.toString())
                      : QVariant::fromValue(given.toString().isEmpty() ? QPixmap() : QPixmap(given.toString()));
+    if (form && index >= 0 && meta->property(index).metaType() == QMetaType::fromType<QString>())
+        if (auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(form->core()->extensionManager(), FComponent)) {
+            const int at = sheet->indexOf(property);
+            if (at >= 0)
+                value = designerText(sheet->property(at), given.toString());
+        }
     if (form)
         form->cursor()->setWidgetProperty(FComponent, property,
                                           value.metaType() == QMetaType::fromType<TColor>()

@@ -1,5 +1,7 @@
 #include "tapplication.h"
 
+#include <algorithm>
+
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCursor>
@@ -85,6 +87,8 @@ TApplication::TApplication()
 {
     FPause.setSingleShot(true);
     connect(&FPause, &QTimer::timeout, this, &TApplication::showTip);
+    FHide.setSingleShot(true);
+    connect(&FHide, &QTimer::timeout, this, &TApplication::hideTip);
     if (auto *style = QApplication::style())
         FHintPause = style->styleHint(QStyle::SH_ToolTip_WakeUpDelay);
     qApp->installEventFilter(this);
@@ -133,8 +137,24 @@ void TApplication::SetShowHint(bool show)
     FShowHint = show;
     if (!show) {
         FPause.stop();
-        QToolTip::hideText();
+        hideTip();
     }
+}
+
+void TApplication::InstallHintWindow(THintWindow *window)
+{
+    if (!window)
+        return;
+    hideTip();
+    FHintWindows.erase(std::remove(FHintWindows.begin(), FHintWindows.end(), window), FHintWindows.end());
+    FHintWindows.push_back(window);
+}
+
+void TApplication::RemoveHintWindow(THintWindow *window)
+{
+    if (window == HintWindow())
+        hideTip();
+    FHintWindows.erase(std::remove(FHintWindows.begin(), FHintWindows.end(), window), FHintWindows.end());
 }
 
 bool TApplication::HelpCommand(int Command, qintptr Data, const QString &keyword)
@@ -218,7 +238,8 @@ void TApplication::idle()
 // Whether this object's tip still shows (it goes by itself, too).
 bool TApplication::tipShown()
 {
-    if (FTipControl && !QToolTip::isVisible()) {
+    const bool visible = HintWindow() ? HintWindow()->HintShown() : QToolTip::isVisible();
+    if (FTipControl && !visible) {
         FTipControl = nullptr;
         FSinceTip.start();
     }
@@ -237,8 +258,18 @@ void TApplication::hover(QWidget *widget)
     FHover = widget;
     QWidget *owner = widget ? hintOwner(widget) : nullptr;
     SetHint(owner ? longHint(owner) : QString());
-    if (FTipControl && (!widget || tipOwner(widget) != FTipControl)) {
+    if (FTipControl && (!widget || tipOwner(widget) != FTipControl))
+        hideTip();
+}
+
+void TApplication::hideTip()
+{
+    FHide.stop();
+    if (THintWindow *window = HintWindow())
+        window->HideHint();
+    else if (FTipControl)
         QToolTip::hideText();
+    if (FTipControl) {
         FTipControl = nullptr;
         FSinceTip.start();
     }
@@ -277,6 +308,15 @@ void TApplication::showTip()
     if (!canShow || text.isEmpty())
         return;
     QWidget *at = info.HintControl;
+    if (THintWindow *window = HintWindow()) {
+        window->ActivateHint(text, info);
+        FTipRect = at ? QRect(at->mapToGlobal(info.CursorRect.topLeft()), info.CursorRect.size()) : QRect();
+        if (info.HideTimeout > 0)
+            FHide.start(info.HideTimeout);
+        FTipControl = control;
+        FSinceTip.invalidate();
+        return;
+    }
     QToolTip::showText(info.HintPos, text, at, at ? info.CursorRect : QRect(), info.HideTimeout);
     if (info.HintColor != HintColor()) {
         // This tip only, in its own colour.
@@ -322,18 +362,20 @@ bool TApplication::eventFilter(QObject *watched, QEvent *event)
         // The tip comes once the mouse rests.
         if (static_cast<QMouseEvent *>(event)->buttons() == Qt::NoButton && w == FHover && !tipShown())
             FPause.start(pause());
+        // A hint window's tip goes once the mouse leaves its place.
+        if (FTipControl && HintWindow() && FTipRect.isValid()
+            && !FTipRect.contains(static_cast<QMouseEvent *>(event)->globalPosition().toPoint()))
+            hideTip();
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::Wheel:
         FPause.stop();
-        if (FTipControl) {
-            FTipControl = nullptr;
-            FSinceTip.start();
-        }
+        hideTip();
         break;
     case QEvent::KeyPress:
         FPause.stop();
+        hideTip();
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_F1 && w == QApplication::focusWidget()) {
             for (QWidget *h = w; h; h = h->isWindow() ? nullptr : h->parentWidget()) {
                 const int context = h->property("HelpContext").toInt();

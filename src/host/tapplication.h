@@ -33,6 +33,7 @@
 #include <QWidget>
 
 #include <exception>
+#include <vector>
 #include <stdexcept>
 
 class QSessionManager;
@@ -46,6 +47,18 @@ struct THintInfo
     QPoint HintPos;                   // where the tip shows, on the screen
     TColor HintColor = 0;
     int HideTimeout = 0;              // ms the tip stays
+};
+
+// A window that shows the tips in place of Qt's tool tip: the application
+// decides when a tip shows and goes, the window how it looks.
+class THintWindow
+{
+public:
+    virtual ~THintWindow() = default;
+    // Shows `text` for the mouse at `info.HintPos` (screen coordinates).
+    virtual void ActivateHint(const QString &text, const THintInfo &info) = 0;
+    virtual void HideHint() = 0;
+    virtual bool HintShown() const = 0;
 };
 
 // Help commands as OnHelp receives them.
@@ -94,6 +107,12 @@ public:
     bool ShowHint() const { return FShowHint; }
     void SetShowHint(bool show);
 
+    // The latest window installed (and not yet removed) shows the tips;
+    // with none, Qt's tool tip does.
+    void InstallHintWindow(THintWindow *window);
+    void RemoveHintWindow(THintWindow *window);
+    THintWindow *HintWindow() const { return FHintWindows.empty() ? nullptr : FHintWindows.back(); }
+
     // The application's main form: the one set here, or else the first
     // window the application showed.
     QWidget *MainForm() const { return FMainForm; }
@@ -140,6 +159,7 @@ private:
     bool tipShown();
     int pause() const;
     void showTip();
+    void hideTip();
     void commitData(QSessionManager &manager);
     void idle();
 
@@ -156,6 +176,9 @@ private:
     QPointer<QWidget> FHover;
     QPointer<QWidget> FTipControl;
     QTimer FPause;
+    QTimer FHide;             // a hint window's tip goes
+    QRect FTipRect;           // the tip goes when the mouse leaves it (screen)
+    std::vector<THintWindow *> FHintWindows;
     QElapsedTimer FSinceTip;
 };
 

@@ -1,5 +1,6 @@
 #include "qcaptionlabel.h"
 
+#include <QEvent>
 #include <QFontMetrics>
 
 TCaptionLabel::TCaptionLabel(QWidget *parent) : TGraphicControl(parent)
@@ -41,13 +42,25 @@ void TCaptionLabel::SetAutoSize(bool autoSize)
 
 void TCaptionLabel::Changed()
 {
-    if (FAutoSize && !FCaption.isEmpty()) {
-        const QFontMetrics metrics(CanvasFont().ToQFont());
-        const QMargins d = Decoration();
-        SetBounds(Left(), Top(), metrics.horizontalAdvance(FCaption) + d.left() + d.right(),
-                  metrics.height() + d.top() + d.bottom());
-    }
+    if (FAutoSize && !FCaption.isEmpty())
+        Fit();
     Invalidate();
+}
+
+void TCaptionLabel::Fit()
+{
+    const QFontMetrics metrics(CanvasFont().ToQFont());
+    const QMargins d = Decoration();
+    SetBounds(Left(), Top(), metrics.horizontalAdvance(FCaption) + d.left() + d.right(),
+              metrics.height() + d.top() + d.bottom());
+}
+
+// A new font (set, or the parent's followed) refits the caption.
+void TCaptionLabel::changeEvent(QEvent *event)
+{
+    TGraphicControl::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        Changed();
 }
 
 QPoint TCaptionLabel::CaptionAt() const

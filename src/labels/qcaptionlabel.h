@@ -33,8 +33,11 @@ protected:
     // Draws the caption at `at`, decorated.
     virtual void PaintCaption(TCanvas &canvas, QPoint at) = 0;
     void Paint(TCanvas &canvas) override;
-    // A change of the look: refit and repaint.
+    void changeEvent(QEvent *event) override;
+    // A change of the look: refit (with AutoSize) and repaint.
     void Changed();
+    // Fits the control to the caption and its decoration.
+    virtual void Fit();
 
 private:
     QString FCaption;
