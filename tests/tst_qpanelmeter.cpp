@@ -29,6 +29,7 @@ private slots:
     void edgewiseAlertZones();
     void steelReplacesTheBevelColours();
     void hugeRangeStillPaints();
+    void keptDialFollowsEveryChange();
 };
 
 void tst_QPanelMeter::roundScaleGeometry()
@@ -169,6 +170,49 @@ void tst_QPanelMeter::hugeRangeStillPaints()
     QCOMPARE(img.pixel(52, 16), rgb(clGreen));
     const TPoint alert = MeterScalePoint(MeterGeometry(105, 97), 90);
     QCOMPARE(img.pixel(alert.X, alert.Y), rgb(clRed));
+}
+
+// The dial is drawn once and only the needle on each new value: whatever
+// changed in between, the picture is what a new meter draws.
+void tst_QPanelMeter::keptDialFollowsEveryChange()
+{
+    TqPanelMeter kept;
+    const auto sameAsNew = [&](const char *step) {
+        TqPanelMeter fresh;
+        fresh.SetBounds(0, 0, kept.width(), kept.height());
+        for (const char *name : {"Caption", "FaceColor", "PanelType", "Ticks", "Max", "Alert"})
+            fresh.setProperty(name, kept.property(name));
+        fresh.SetValue(kept.Value());
+        QVERIFY2(kept.RenderImage() == fresh.RenderImage(), step);
+    };
+    kept.SetValue(30);
+    kept.RenderImage();
+    kept.SetValue(80);
+    sameAsNew("value");
+    kept.SetFaceColor(clYellow);
+    sameAsNew("face colour");
+    kept.SetCaption(QStringLiteral("mV"));
+    kept.SetValue(10);
+    sameAsNew("caption and value");
+    kept.SetScaledMax(50);
+    kept.SetAlert(40);
+    sameAsNew("range");
+    kept.SetAlert(20);
+    kept.SetTicks(false);
+    sameAsNew("alert and ticks");
+    kept.SetBounds(0, 0, 150, 120);
+    sameAsNew("size");
+    kept.SetPanelType(TqPanelMeter::qpEdgeVert);
+    kept.SetValue(40);
+    sameAsNew("edgewise");
+    // A palette change: the system colours of the house and bevels follow.
+    const QPalette before = QGuiApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Button, QColor(40, 40, 40));
+    QApplication::setPalette(dark);
+    QCoreApplication::processEvents();
+    sameAsNew("palette");
+    QApplication::setPalette(before);
 }
 
 QTEST_MAIN(tst_QPanelMeter)

@@ -2,6 +2,7 @@
 // character table and picture.
 #include "displays/qseg.h"
 
+#include <QApplication>
 #include <QtTest>
 
 namespace {
@@ -71,6 +72,7 @@ private slots:
     void transparentShowsTheParent();
     void onPaintComesLastAndCanDraw();
     void unchangedValuesDoNotRepaint();
+    void sharedPicturesFollowColoursAndPalette();
 };
 
 void tst_QSegment::newCellShowsTheDarkPattern()
@@ -273,6 +275,34 @@ void tst_QSegment::unchangedValuesDoNotRepaint()
     QTRY_COMPARE(seg.paints, 1);
     QCoreApplication::processEvents();
     QCOMPARE(seg.paints, 1);
+}
+
+// Cells that look alike share one picture; a colour of their own, or a
+// system colour after a palette change, makes another.
+void tst_QSegment::sharedPicturesFollowColoursAndPalette()
+{
+    TqSegment a, b;
+    a.SetChar('8');
+    b.SetChar('8');
+    const QImage first = a.RenderImage();
+    QCOMPARE(b.RenderImage(), first);
+    QPoint lit(-1, -1);
+    for (int y = 0; y < first.height() && lit.x() < 0; ++y)
+        for (int x = 0; x < first.width() && lit.x() < 0; ++x)
+            if (first.pixel(x, y) == qRgb(0, 255, 0))
+                lit = QPoint(x, y);
+    QVERIFY(lit.x() >= 0);
+    b.SetLitColor(clRed);
+    QCOMPARE(b.RenderImage().pixel(lit), qRgb(255, 0, 0));
+    QCOMPARE(a.RenderImage().pixel(lit), qRgb(0, 255, 0));
+    a.SetColor(clBtnFace);
+    const QPalette before = QGuiApplication::palette();
+    QPalette other = before;
+    other.setColor(QPalette::Button, QColor(10, 20, 30));
+    QApplication::setPalette(other);
+    QCOMPARE(a.RenderImage().pixel(0, 0), qRgb(10, 20, 30));
+    QApplication::setPalette(before);
+    QCOMPARE(a.RenderImage().pixel(0, 0), before.color(QPalette::Button).rgb());
 }
 
 QTEST_MAIN(tst_QSegment)

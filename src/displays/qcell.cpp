@@ -1,5 +1,7 @@
 #include "qcell.h"
 
+#include <QHash>
+
 #include "host/tcodepage.h"
 
 #include <algorithm>
@@ -72,6 +74,62 @@ void TqCustomCell::SetSize(quint8 size)
 bool TqCustomCell::PaintsOpaque() const
 {
     return TGraphicControl::PaintsOpaque() && !FTransparent;
+}
+
+namespace {
+
+struct TCellPictureKey
+{
+    int kind, width, height;
+    quint64 look;
+    quint32 variant;
+    QRgb lit, unlit, ground;
+    bool operator==(const TCellPictureKey &o) const
+    {
+        return kind == o.kind && width == o.width && height == o.height && look == o.look && variant == o.variant
+               && lit == o.lit && unlit == o.unlit && ground == o.ground;
+    }
+};
+
+size_t qHash(const TCellPictureKey &k, size_t seed = 0)
+{
+    return qHashMulti(seed, k.kind, k.width, k.height, k.look, k.variant, k.lit, k.unlit, k.ground);
+}
+
+// Enough for every character of a few colour schemes; emptied when full.
+constexpr qsizetype kMostCellPictures = 2048;
+
+QHash<TCellPictureKey, QImage> &cellPictures()
+{
+    static QHash<TCellPictureKey, QImage> pictures;
+    return pictures;
+}
+
+} // namespace
+
+void TqCustomCell::PaintCell(TCanvas &canvas, int kind, quint64 look, quint32 variant,
+                             const std::function<void(TCanvas &)> &draw)
+{
+    if (FTransparent || !canvas.Image()) {
+        PaintBackground(canvas);
+        draw(canvas);
+        return;
+    }
+    // Colours as they are now: a system colour follows the palette.
+    const TCellPictureKey key{kind, width(), height(), look, variant, ColorToQRgb(FLitColor),
+                              ColorToQRgb(FUnLitColor), ColorToQRgb(Color())};
+    auto &pictures = cellPictures();
+    auto found = pictures.constFind(key);
+    if (found == pictures.constEnd()) {
+        if (pictures.size() >= kMostCellPictures)
+            pictures.clear();
+        QImage picture(size(), QImage::Format_RGB32);
+        TCanvas cell(&picture);
+        PaintBackground(cell);
+        draw(cell);
+        found = pictures.insert(key, picture);
+    }
+    canvas.Draw(0, 0, *found);
 }
 
 void TqCustomCell::PaintBackground(TCanvas &canvas)

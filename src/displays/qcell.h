@@ -6,6 +6,8 @@
 
 #include "host/tcontrol.h"
 
+#include <functional>
+
 using qChar = quint8;   // a Windows-1252 code, offered as 32..255
 
 class TqCustomCell : public TGraphicControl
@@ -58,6 +60,12 @@ protected:
     bool PaintsOpaque() const override;
     // The extent at Size 1 times Size.
     QSize Extent() const { return FUnit * FSize; }
+    // Paints an opaque cell through a picture shared by every cell of the
+    // same kind, size, look and colours (a row of readouts shows the same
+    // few characters over and over): `draw` paints it the first time only.
+    // A transparent cell draws straight onto what lies beneath.
+    void PaintCell(TCanvas &canvas, int kind, quint64 look, quint32 variant,
+                   const std::function<void(TCanvas &)> &draw);
 
 private:
     QSize FUnit;

@@ -56,22 +56,23 @@ void TqcDotSegment::DoUpdate()
 
 void TqcDotSegment::Paint(TCanvas &canvas)
 {
-    PaintBackground(canvas);
-    const int extent = Size() + 2 - (FUseGap ? 1 : 0);
-    const int corner = std::max(Size() / 2, 1);
-    int k = 1;
-    // Unlit dots are drawn too, so the whole matrix always shows.
-    for (int j = 0; j < 9; ++j) {
-        for (int i = 0; i < 7; ++i, ++k) {
-            canvas.Pen.SetColor((FLook & (TDotLook(1) << k)) ? LitColor() : UnLitColor());
-            canvas.Brush.SetColor(canvas.Pen.Color());
-            const int x = FGeometry.X[size_t(i)], y = FGeometry.Y[size_t(j)];
-            switch (FStyle) {
-            case qcdsDot: canvas.Ellipse(x, y, x + extent, y + extent); break;
-            case qcdsRect: canvas.Rectangle(x, y, x + extent, y + extent); break;
-            case qcdsRound: canvas.RoundRect(x, y, x + extent, y + extent, corner, corner); break;
+    PaintCell(canvas, 1, FLook, quint32(FStyle) << 1 | quint32(FUseGap), [this](TCanvas &c) {
+        const int extent = Size() + 2 - (FUseGap ? 1 : 0);
+        const int corner = std::max(Size() / 2, 1);
+        int k = 1;
+        // Unlit dots are drawn too, so the whole matrix always shows.
+        for (int j = 0; j < 9; ++j) {
+            for (int i = 0; i < 7; ++i, ++k) {
+                c.Pen.SetColor((FLook & (TDotLook(1) << k)) ? LitColor() : UnLitColor());
+                c.Brush.SetColor(c.Pen.Color());
+                const int x = FGeometry.X[size_t(i)], y = FGeometry.Y[size_t(j)];
+                switch (FStyle) {
+                case qcdsDot: c.Ellipse(x, y, x + extent, y + extent); break;
+                case qcdsRect: c.Rectangle(x, y, x + extent, y + extent); break;
+                case qcdsRound: c.RoundRect(x, y, x + extent, y + extent, corner, corner); break;
+                }
             }
         }
-    }
+    });
     DoOnPaint();
 }

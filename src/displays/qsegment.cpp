@@ -324,12 +324,13 @@ void TqSegment::DoUpdate()
 
 void TqSegment::Paint(TCanvas &canvas)
 {
-    PaintBackground(canvas);
-    // Unlit elements are drawn too, so the whole pattern always shows.
-    for (int n = 1; n <= SegmentElementCount; ++n) {
-        canvas.Pen.SetColor((FLook & (TSegLook(1) << n)) ? LitColor() : UnLitColor());
-        canvas.Brush.SetColor(canvas.Pen.Color());
-        canvas.Polygon(FPolygons[size_t(n - 1)]);
-    }
+    PaintCell(canvas, 0, FLook, 0, [this](TCanvas &c) {
+        // Unlit elements are drawn too, so the whole pattern always shows.
+        for (int n = 1; n <= SegmentElementCount; ++n) {
+            c.Pen.SetColor((FLook & (TSegLook(1) << n)) ? LitColor() : UnLitColor());
+            c.Brush.SetColor(c.Pen.Color());
+            c.Polygon(FPolygons[size_t(n - 1)]);
+        }
+    });
     DoOnPaint();
 }

@@ -1,5 +1,7 @@
 #include "tcontrol.h"
 
+#include <cstring>
+
 #include "tapplication.h"
 
 #include <QApplication>
@@ -407,20 +409,36 @@ void TControl::paintInto(QImage &image)
 void TControl::copyBeneath(QPainter &painter)
 {
     QPaintDevice *device = painter.paintEngine() ? painter.paintEngine()->paintDevice() : nullptr;
-    QImage surface;
-    if (device && device->devType() == QInternal::Image)
-        surface = *static_cast<QImage *>(device);
-    else if (device && device->devType() == QInternal::Pixmap)
-        surface = static_cast<QPixmap *>(device)->toImage();
     const QRect area = painter.deviceTransform().mapRect(QRectF(rect())).toAlignedRect();
-    if (surface.isNull() || !surface.rect().contains(area)) {
+    // Only the control's own area is copied: the surface is being painted
+    // on, so taking the whole of it would copy every pixel of the window.
+    QImage beneath;
+    if (device && device->devType() == QInternal::Image) {
+        const auto *surface = static_cast<const QImage *>(device);
+        if (!surface->rect().contains(area)) {
+            FBuffer.fill(ColorToQRgb(Color()));
+            return;
+        }
+        // The usual case, straight into the buffer row by row.
+        if (area.size() == FBuffer.size() && surface->depth() == 32 && !surface->hasAlphaChannel()) {
+            for (int y = 0; y < area.height(); ++y)
+                std::memcpy(FBuffer.scanLine(y), surface->constScanLine(area.top() + y) + area.left() * 4,
+                            size_t(area.width()) * 4);
+            return;
+        }
+        beneath = surface->copy(area);
+    } else if (device && device->devType() == QInternal::Pixmap) {
+        const auto *surface = static_cast<const QPixmap *>(device);
+        if (surface->rect().contains(area))
+            beneath = surface->copy(area).toImage();
+    }
+    if (beneath.isNull()) {
         FBuffer.fill(ColorToQRgb(Color()));
         return;
     }
-    QImage beneath = surface.copy(area);
     if (beneath.size() != FBuffer.size())
         beneath = beneath.scaled(FBuffer.size());
-    FBuffer = beneath.convertToFormat(QImage::Format_RGB32);
+    FBuffer = beneath.format() == QImage::Format_RGB32 ? beneath : beneath.convertToFormat(QImage::Format_RGB32);
 }
 
 void TControl::paintEvent(QPaintEvent *)

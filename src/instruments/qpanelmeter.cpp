@@ -3,6 +3,7 @@
 #include "host/tscale.h"
 #include "host/tsteel.h"
 
+#include <QEvent>
 #include <algorithm>
 #include <cmath>
 
@@ -53,7 +54,7 @@ void TqPanelMeter::SetCaption(const QString &caption)
     if (FCaption == caption)
         return;
     FCaption = caption;
-    Invalidate();
+    dialChanged();
 }
 
 void TqPanelMeter::SetValue(int value)
@@ -75,53 +76,53 @@ void TqPanelMeter::SetValue(int value)
 void TqPanelMeter::SetScaledMin(int min)
 {
     FMin = std::min(min, FMax);
+    FDialValid = false;   // before the value repaints
     SetValue(FValue);
-    Invalidate();
 }
 
 void TqPanelMeter::SetScaledMax(int max)
 {
     FMax = std::max(max, FMin);
+    FDialValid = false;   // before the value repaints
     SetValue(FValue);
-    Invalidate();
 }
 
 void TqPanelMeter::SetAlert(int alert)
 {
     FAlert = std::clamp(alert, FMin, std::max(FMin, FMax));
-    Invalidate();
+    dialChanged();
 }
 
-void TqPanelMeter::SetTicks(bool ticks) { FTicks = ticks; Invalidate(); }
-void TqPanelMeter::SetStep(int step) { FStep = step; Invalidate(); }
-void TqPanelMeter::SetHand(TColor color) { FHand = color; Invalidate(); }
-void TqPanelMeter::SetPanelType(qPanelType type) { FPanelType = type; Invalidate(); }
-void TqPanelMeter::SetHouseColor(TColor color) { FHouseColor = color; Invalidate(); }
-void TqPanelMeter::SetHouseStyle(TBrushStyle style) { FHouseStyle = style; Invalidate(); }
-void TqPanelMeter::SetFaceColor(TColor color) { FFaceColor = color; Invalidate(); }
-void TqPanelMeter::SetNormalColor(TColor color) { FNormalColor = color; Invalidate(); }
-void TqPanelMeter::SetAlertColor(TColor color) { FAlertColor = color; Invalidate(); }
-void TqPanelMeter::SetUseAlert(bool use) { FUseAlert = use; Invalidate(); }
-void TqPanelMeter::SetShowAll(bool show) { FShowAll = show; Invalidate(); }
+void TqPanelMeter::SetTicks(bool ticks) { FTicks = ticks; dialChanged(); }
+void TqPanelMeter::SetStep(int step) { FStep = step; dialChanged(); }
+void TqPanelMeter::SetHand(TColor color) { FHand = color; dialChanged(); }
+void TqPanelMeter::SetPanelType(qPanelType type) { FPanelType = type; dialChanged(); }
+void TqPanelMeter::SetHouseColor(TColor color) { FHouseColor = color; dialChanged(); }
+void TqPanelMeter::SetHouseStyle(TBrushStyle style) { FHouseStyle = style; dialChanged(); }
+void TqPanelMeter::SetFaceColor(TColor color) { FFaceColor = color; dialChanged(); }
+void TqPanelMeter::SetNormalColor(TColor color) { FNormalColor = color; dialChanged(); }
+void TqPanelMeter::SetAlertColor(TColor color) { FAlertColor = color; dialChanged(); }
+void TqPanelMeter::SetUseAlert(bool use) { FUseAlert = use; dialChanged(); }
+void TqPanelMeter::SetShowAll(bool show) { FShowAll = show; dialChanged(); }
 
 void TqPanelMeter::SetScaleWidth(int width)
 {
     FScaleWidth = quint8(std::clamp(width, 0, 5));
-    Invalidate();
+    dialChanged();
 }
 
 void TqPanelMeter::SetShadowColor(TColor color)
 {
     FShadowColor = color;
     FSteelLook = false;
-    Invalidate();
+    dialChanged();
 }
 
 void TqPanelMeter::SetHighColor(TColor color)
 {
     FHighColor = color;
     FSteelLook = false;
-    Invalidate();
+    dialChanged();
 }
 
 void TqPanelMeter::SetSteelLook(bool steel)
@@ -129,7 +130,7 @@ void TqPanelMeter::SetSteelLook(bool steel)
     FSteelLook = steel;
     if (steel)
         Steel();
-    Invalidate();
+    dialChanged();
 }
 
 void TqPanelMeter::Steel()
@@ -147,6 +148,40 @@ void TqPanelMeter::forEachMark(bool ticksOnly, Mark mark) const
 }
 
 void TqPanelMeter::Paint(TCanvas &canvas)
+{
+    if (!FDialValid || FDial.size() != size()) {
+        FDial = QImage(size(), QImage::Format_RGB32);
+        TCanvas dial(&FDial);
+        paintDial(dial);
+        FDialValid = true;
+    }
+    canvas.Draw(0, 0, FDial);
+    canvas.Pen.SetWidth(1);
+    const int W1 = width() - 1, H1 = height() - 1;
+    switch (FPanelType) {
+    case qpStandard: PaintSt(canvas, W1, H1, mpNeedle); break;
+    case qpEdgeHorz: PaintEH(canvas, W1, H1, mpNeedle); break;
+    case qpEdgeVert: PaintEV(canvas, W1, H1, mpNeedle); break;
+    }
+    emit OnPaint(this);
+}
+
+void TqPanelMeter::changeEvent(QEvent *event)
+{
+    TGraphicControl::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::PaletteChange:
+    case QEvent::ApplicationPaletteChange:
+    case QEvent::EnabledChange:
+        FDialValid = false;
+        break;
+    default:
+        break;
+    }
+}
+
+void TqPanelMeter::paintDial(TCanvas &canvas)
 {
     const int W = width(), H = height();
     if (FSteelLook)
@@ -168,11 +203,10 @@ void TqPanelMeter::Paint(TCanvas &canvas)
     canvas.Pen.SetWidth(1);
     canvas.Font = CanvasFont();
     switch (FPanelType) {
-    case qpStandard: PaintSt(canvas, W - 1, H - 1); break;
-    case qpEdgeHorz: PaintEH(canvas, W - 1, H - 1); break;
-    case qpEdgeVert: PaintEV(canvas, W - 1, H - 1); break;
+    case qpStandard: PaintSt(canvas, W - 1, H - 1, mpDial); break;
+    case qpEdgeHorz: PaintEH(canvas, W - 1, H - 1, mpDial); break;
+    case qpEdgeVert: PaintEV(canvas, W - 1, H - 1, mpDial); break;
     }
-    emit OnPaint(this);
 }
 
 void TqPanelMeter::caption(TCanvas &canvas, TRect face, unsigned flags)
@@ -183,12 +217,19 @@ void TqPanelMeter::caption(TCanvas &canvas, TRect face, unsigned flags)
     canvas.Brush.SetStyle(bsSolid);
 }
 
-void TqPanelMeter::PaintSt(TCanvas &c, int W1, int H1)
+void TqPanelMeter::PaintSt(TCanvas &c, int W1, int H1, TMeterPart part)
 {
     const int W = W1 + 1, H = H1 + 1;
     const TMeterGeometry g = MeterGeometry(W, H);
     const int a = g.a, b = g.b, cx = g.cx, hb = g.hb;
     const int sw = FScaleWidth;
+    if (part == mpNeedle) {
+        const TPoint tip = MeterScalePoint(g, percent(FValue));
+        c.Pen.SetColor(FHand);
+        c.MoveTo(tip.X, tip.Y);
+        c.LineTo(cx, hb - b);
+        return;
+    }
     c.Pen.SetColor(FShadowColor);
     c.Polyline({{a - 1, hb - b}, {a - 1, b - 1}, {W - a, b - 1}});
     c.Polyline({{0, H1}, {0, 0}, {W1, 0}});
@@ -230,10 +271,6 @@ void TqPanelMeter::PaintSt(TCanvas &c, int W1, int H1)
     if (FTicks)
         forEachMark(true, tick);
     forEachMark(false, stroke);
-    const TPoint tip = MeterScalePoint(g, percent(FValue));
-    c.Pen.SetColor(FHand);
-    c.MoveTo(tip.X, tip.Y);
-    c.LineTo(cx, hb - b);
 }
 
 void TqPanelMeter::edgeBevel(TCanvas &c, int a, int b, int W1, int H1)
@@ -253,11 +290,17 @@ void TqPanelMeter::edgeBevel(TCanvas &c, int a, int b, int W1, int H1)
     c.FillRect(Rect(a + 1, b + 1, W - a, H - b));
 }
 
-void TqPanelMeter::PaintEH(TCanvas &c, int W1, int H1)
+void TqPanelMeter::PaintEH(TCanvas &c, int W1, int H1, TMeterPart part)
 {
     const int W = W1 + 1, H = H1 + 1;
     const int a = W / 15, b = H / 5, L = W - 2 * a, sw = FScaleWidth;
     const auto P = [&](int v) { return EdgeOffset(percent(v), L); };
+    if (part == mpNeedle) {
+        c.Pen.SetColor(FHand);
+        c.MoveTo(a + 1 + P(FValue), b + 1);
+        c.LineTo(a + 1 + P(FValue), H1 - b + 1);
+        return;
+    }
     edgeBevel(c, a, b, W1, H1);
     const int m = (H - sw + 1) / 2;
     c.Brush.SetColor(FNormalColor);
@@ -273,17 +316,20 @@ void TqPanelMeter::PaintEH(TCanvas &c, int W1, int H1)
             c.LineTo(a + 1 + P(i), H1 - 2 * b + 1);
         });
     caption(c, Rect(a + 1, b + 1, W - a, H - b), DT_CENTER | DT_BOTTOM | DT_SINGLELINE);
-    c.Pen.SetColor(FHand);
-    c.MoveTo(a + 1 + P(FValue), b + 1);
-    c.LineTo(a + 1 + P(FValue), H1 - b + 1);
 }
 
-void TqPanelMeter::PaintEV(TCanvas &c, int W1, int H1)
+void TqPanelMeter::PaintEV(TCanvas &c, int W1, int H1, TMeterPart part)
 {
     const int W = W1 + 1, H = H1 + 1;
     const int a = W / 5, b = H / 15, L = H - 2 * b, sw = FScaleWidth;
     const int e = H - b;   // the bottom of the scale; values grow upward
     const auto y = [&](int v) { return e - (EdgeOffset(percent(v), L) + 1); };
+    if (part == mpNeedle) {
+        c.Pen.SetColor(FHand);
+        c.MoveTo(a + 1, y(FValue));
+        c.LineTo(W1 - a + 1, y(FValue));
+        return;
+    }
     edgeBevel(c, a, b, W1, H1);
     const int m = (W - sw + 1) / 2;
     c.Brush.SetColor(FNormalColor);
@@ -299,7 +345,4 @@ void TqPanelMeter::PaintEV(TCanvas &c, int W1, int H1)
             c.LineTo(W1 - 2 * a + 1, y(i));
         });
     caption(c, Rect(a + 1, b + 1, W - a, H - b), DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-    c.Pen.SetColor(FHand);
-    c.MoveTo(a + 1, y(FValue));
-    c.LineTo(W1 - a + 1, y(FValue));
 }

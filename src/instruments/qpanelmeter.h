@@ -129,16 +129,26 @@ signals:
 
 protected:
     void Paint(TCanvas &canvas) override;
-    // The three looks, given Width - 1 and Height - 1.
-    void PaintSt(TCanvas &canvas, int W1, int H1);
-    void PaintEH(TCanvas &canvas, int W1, int H1);
-    void PaintEV(TCanvas &canvas, int W1, int H1);
+    // The three looks, given Width - 1 and Height - 1: the dial (house,
+    // bevels, face, scale, caption), or the needle over it.
+    enum TMeterPart { mpDial, mpNeedle };
+    void PaintSt(TCanvas &canvas, int W1, int H1, TMeterPart part);
+    void PaintEH(TCanvas &canvas, int W1, int H1, TMeterPart part);
+    void PaintEV(TCanvas &canvas, int W1, int H1, TMeterPart part);
     void Steel();
+    void changeEvent(QEvent *event) override;
 
 private:
     int percent(int value) const { return MeterPercent(value, FMin, FMax); }
     TColor scaleColor(int value) const { return FUseAlert && value >= FAlert ? FAlertColor : FNormalColor; }
     void edgeBevel(TCanvas &canvas, int a, int b, int W1, int H1);
+    void paintDial(TCanvas &canvas);
+    // Everything but the value changed: the dial is drawn again.
+    void dialChanged()
+    {
+        FDialValid = false;
+        Invalidate();
+    }
     void caption(TCanvas &canvas, TRect face, unsigned flags);
     // Calls `mark(i, colour)` once for each whole percentage of the scale
     // that holds a value of Min..Max, with the last value there; with
@@ -167,6 +177,9 @@ private:
     quint8 FScaleWidth = 2;
     bool FSteelLook = false;
     bool FAlertOn = false;
+    // The dial as last drawn: a new value only draws the needle over it.
+    QImage FDial;
+    bool FDialValid = false;
 };
 
 using qPanelType = TqPanelMeter::qPanelType;
