@@ -13,12 +13,56 @@
 #include "services/std2.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QCommandLineParser>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTimer>
 #include <QGridLayout>
 #include <QWidget>
 
 #include <cstdio>
+
+namespace {
+
+// Fusion in its own light palette, or in a dark one; the library's system
+// colours (clBtnFace, clWindow ...) follow either.
+void applyTheme(bool dark, TqBackground *wallpaper)
+{
+    QStyle *fusion = QApplication::setStyle(QStringLiteral("Fusion"));
+    QPalette p = fusion ? fusion->standardPalette() : QApplication::palette();
+    if (dark) {
+        const QColor window(53, 53, 53), base(35, 35, 35), text(230, 230, 230);
+        p.setColor(QPalette::Window, window);
+        p.setColor(QPalette::WindowText, text);
+        p.setColor(QPalette::Base, base);
+        p.setColor(QPalette::AlternateBase, window);
+        p.setColor(QPalette::ToolTipBase, QColor(60, 60, 40));
+        p.setColor(QPalette::ToolTipText, text);
+        p.setColor(QPalette::Text, text);
+        p.setColor(QPalette::Button, window);
+        p.setColor(QPalette::ButtonText, text);
+        p.setColor(QPalette::BrightText, Qt::red);
+        p.setColor(QPalette::Light, QColor(90, 90, 90));
+        p.setColor(QPalette::Midlight, QColor(70, 70, 70));
+        p.setColor(QPalette::Mid, QColor(40, 40, 40));
+        p.setColor(QPalette::Dark, QColor(25, 25, 25));
+        p.setColor(QPalette::Shadow, QColor(10, 10, 10));
+        p.setColor(QPalette::Highlight, QColor(42, 130, 218));
+        p.setColor(QPalette::HighlightedText, Qt::black);
+        p.setColor(QPalette::Link, QColor(90, 160, 255));
+        p.setColor(QPalette::Disabled, QPalette::Text, QColor(120, 120, 120));
+        p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(120, 120, 120));
+        p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(120, 120, 120));
+    }
+    QApplication::setPalette(p);
+    if (wallpaper) {
+        wallpaper->SetColor(dark ? 0x00403830 : 0x00F4F0EC);
+        wallpaper->SetEndColor(dark ? 0x00181410 : 0x00D8CCC0);
+    }
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -31,6 +75,8 @@ int main(int argc, char **argv)
                                   QStringLiteral("Run briefly, save the window to <file> and quit."),
                                   QStringLiteral("file"));
     parser.addOption(screenshot);
+    QCommandLineOption darkOption(QStringLiteral("dark"), QStringLiteral("Start in the dark palette."));
+    parser.addOption(darkOption);
     QCommandLineOption panelOption(QStringLiteral("panel"),
                                    QStringLiteral("Show the instrument panel loaded from its Designer form."));
     parser.addOption(panelOption);
@@ -64,29 +110,35 @@ int main(int argc, char **argv)
         return app.exec();
     }
 
+    applyTheme(parser.isSet(darkOption), nullptr);
     QWidget window;
     window.setWindowTitle(QApplication::applicationName());
     auto *layout = new QGridLayout(&window);
-    layout->addWidget(displaysSection(&window), 0, 0);
+    auto *dark = new QCheckBox(QStringLiteral("Dark palette"), &window);
+    layout->addWidget(dark, 0, 0, 1, 2);
+    layout->addWidget(displaysSection(&window), 1, 0);
     // Application information on the gallery's window: one gallery at a
     // time (a second start hands over and ends), except for pictures.
     auto *info = new TqShowApp(&window);
     info->SetOnlyOneInstance(!parser.isSet(screenshot));
     info->SetTitle(QApplication::applicationName());
-    layout->addWidget(servicesSection(&window, info), 1, 0);
-    layout->addWidget(instrumentsSection(&window), 0, 1, 2, 1);
-    layout->addWidget(controlsSection(&window), 2, 0, 1, 2);
-    layout->addWidget(buttonsSection(&window), 3, 0, 1, 2);
-    layout->addWidget(panelsSection(&window), 4, 0, 1, 2);
-    layout->addWidget(bitmapsSection(&window), 5, 0, 1, 2);
-    layout->addWidget(labelsSection(&window), 6, 0, 1, 2);
-    layout->setRowStretch(7, 1);
+    layout->addWidget(servicesSection(&window, info), 2, 0);
+    layout->addWidget(instrumentsSection(&window), 1, 1, 2, 1);
+    layout->addWidget(controlsSection(&window), 3, 0, 1, 2);
+    layout->addWidget(buttonsSection(&window), 4, 0, 1, 2);
+    layout->addWidget(panelsSection(&window), 5, 0, 1, 2);
+    layout->addWidget(bitmapsSection(&window), 6, 0, 1, 2);
+    layout->addWidget(labelsSection(&window), 7, 0, 1, 2);
+    layout->setRowStretch(8, 1);
     // The gallery's own wallpaper: a light blend behind every section.
     auto *wallpaper = new TqBackground(&window);
     wallpaper->SetBackType(TqBackground::btBlend);
     wallpaper->SetColor(0x00F4F0EC);
     wallpaper->SetEndColor(0x00D8CCC0);
     wallpaper->SetBands(64);
+    applyTheme(parser.isSet(darkOption), wallpaper);
+    dark->setChecked(parser.isSet(darkOption));
+    QObject::connect(dark, &QCheckBox::toggled, wallpaper, [wallpaper](bool on) { applyTheme(on, wallpaper); });
     info->QueueLoaded();
     info->FinishLoading();
     wallpaper->QueueLoaded();

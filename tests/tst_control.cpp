@@ -2,6 +2,7 @@
 // inheritance, design mode, the off-screen paint and the non-visual face.
 #include "host/tcontrol.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QEnterEvent>
 #include <QHelpEvent>
@@ -109,6 +110,7 @@ private slots:
     void updatePaintsOnlyThisControl();
     void transparentControlCombinesWithWhatIsBeneath();
     void canvasOutsidePaint();
+    void systemColoursFollowPaletteAndStyleSheet();
 };
 
 void tst_Control::mouseSequences()
@@ -368,6 +370,41 @@ void tst_Control::transparentControlCombinesWithWhatIsBeneath()
     const QImage direct = below->RenderImage(qRgb(0, 255, 0));
     QCOMPARE(QColor(direct.pixel(5, 5)), QColor(Qt::blue));
     QCOMPARE(QColor(direct.pixel(30, 5)), QColor(Qt::green));
+}
+
+// A control in clBtnFace on a shown form: repainted in the new colour when
+// the application's palette changes, and in a style sheet's colours.
+void tst_Control::systemColoursFollowPaletteAndStyleSheet()
+{
+    class Face : public TGraphicControl
+    {
+    public:
+        using TGraphicControl::TGraphicControl;
+        void Paint(TCanvas &canvas) override
+        {
+            canvas.Brush.SetColor(clBtnFace);
+            canvas.FillRect(ClientRect());
+        }
+    };
+    QWidget form;
+    form.resize(40, 20);
+    auto *face = new Face(&form);
+    face->setGeometry(0, 0, 40, 20);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    const QPalette before = QApplication::palette();
+    QCOMPARE(pixelOf(&form, 5, 5), before.color(QPalette::Button).rgb() & 0xFFFFFF);
+    QPalette dark = before;
+    dark.setColor(QPalette::Button, QColor(30, 30, 30));
+    QApplication::setPalette(dark);
+    QTRY_COMPARE(pixelOf(&form, 5, 5), qRgb(30, 30, 30) & 0xFFFFFF);
+    QApplication::setPalette(before);
+    QTRY_COMPARE(pixelOf(&form, 5, 5), before.color(QPalette::Button).rgb() & 0xFFFFFF);
+    // A style sheet on the form: its button colour is the controls' clBtnFace.
+    form.setStyleSheet(QStringLiteral("* { background-color: rgb(16, 32, 48); }"));
+    QTRY_COMPARE(pixelOf(&form, 5, 5), qRgb(16, 32, 48) & 0xFFFFFF);
+    form.setStyleSheet(QString());
+    QTRY_COMPARE(pixelOf(&form, 5, 5), before.color(QPalette::Button).rgb() & 0xFFFFFF);
 }
 
 void tst_Control::canvasOutsidePaint()

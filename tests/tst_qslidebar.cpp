@@ -57,6 +57,8 @@ void tst_QSlideBar::thumbGrooveAndTicksWhereTheGeometrySays()
     bar.SetNonFocusColor(clRed);
     bar.SetPosition(3);
     const QImage img = bar.RenderImage();
+    // The form's palette is the bar's: its system colours come from it.
+    const TSystemColorScope formColours(bar.palette());
     QCOMPARE(img.pixel(60, 8), rgb(clBtnShadow));      // lowered groove: shadow above...
     QCOMPARE(img.pixel(60, 11), rgb(clBtnHighlight));  // ...light below
     QCOMPARE(img.pixel(60, 9), rgb(clRed));            // filled while unfocused

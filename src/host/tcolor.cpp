@@ -83,8 +83,28 @@ private:
     bool FValid = false;
 };
 
+// The palette of the scope alive on this thread, if any.
+thread_local const QPalette *scopePalette = nullptr;
+
+// The system colours of the last palette a scope asked for.
+TColor scopedSystemColor(const QPalette &palette, int index)
+{
+    static qint64 key = -1;
+    static std::array<TColor, SystemColorTable::kCount> colors{};
+    if (index < 0 || index >= SystemColorTable::kCount || QThread::currentThread() != qApp->thread())
+        return QColorToColor(systemColorOf(palette, index));
+    if (palette.cacheKey() != key) {
+        for (int i = 0; i < SystemColorTable::kCount; ++i)
+            colors[size_t(i)] = QColorToColor(systemColorOf(palette, i));
+        key = palette.cacheKey();
+    }
+    return colors[size_t(index)];
+}
+
 TColor systemColor(int index)
 {
+    if (scopePalette)
+        return scopedSystemColor(*scopePalette, index);
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return QColorToColor(systemColorOf(QPalette(QColor(0xF0, 0xF0, 0xF0)), index));
     // Off the GUI thread, or an index beyond the table: straight from the palette.
@@ -92,6 +112,20 @@ TColor systemColor(int index)
         return QColorToColor(systemColorOf(QGuiApplication::palette(), index));
     return SystemColorTable::at(index);
 }
+
+} // namespace
+
+TSystemColorScope::TSystemColorScope(const QPalette &palette) : FPrevious(scopePalette)
+{
+    scopePalette = &palette;
+}
+
+TSystemColorScope::~TSystemColorScope()
+{
+    scopePalette = FPrevious;
+}
+
+namespace {
 
 struct NamedColor
 {

@@ -5,6 +5,7 @@
 
 #include <QtGlobal>
 #include <QColor>
+#include <QPalette>
 #include <QMetaProperty>
 #include <QMetaType>
 #include <QRgb>
@@ -84,8 +85,23 @@ constexpr TColor clInfoText            = 0x80000017;
 constexpr TColor clInfoBk              = 0x80000018;
 
 // The plain 0x00BBGGRR value of a colour; system colours are looked up in
-// the application palette (or the default palette without an application).
+// the application palette (or the default palette without an application),
+// or in the palette of a TSystemColorScope alive on this thread.
 TColor ColorToRGB(TColor color);
+
+// While one lives, system colours on this thread come from `palette`: a
+// control paints in its own palette, which a style sheet may have set.
+class TSystemColorScope
+{
+public:
+    explicit TSystemColorScope(const QPalette &palette);
+    ~TSystemColorScope();
+    TSystemColorScope(const TSystemColorScope &) = delete;
+    TSystemColorScope &operator=(const TSystemColorScope &) = delete;
+
+private:
+    const QPalette *FPrevious;
+};
 
 // The colour as Qt's 0xAARRGGBB, always opaque.
 QRgb ColorToQRgb(TColor color);

@@ -1,8 +1,11 @@
 #include "tcontrol.h"
 
 #include <cstring>
+#include <optional>
 
 #include "tapplication.h"
+
+#include <QGuiApplication>
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -399,6 +402,18 @@ void TControl::paintInto(QImage &image)
 {
     TCanvas canvas(&image);
     FCanvas = &canvas;
+    // System colours in the control's own palette where a style sheet or
+    // the program set colours on it or on the form it is on.
+    // (Decided again only when either palette changed.)
+    const QPalette &own = palette();
+    const QPalette app = QGuiApplication::palette();
+    if (own.cacheKey() != FPaletteKeys.first || app.cacheKey() != FPaletteKeys.second) {
+        FPaletteKeys = {own.cacheKey(), app.cacheKey()};
+        FOwnPalette = !own.isCopyOf(app) && own != app;
+    }
+    std::optional<TSystemColorScope> scope;
+    if (FOwnPalette)
+        scope.emplace(own);
     Paint(canvas);
     FCanvas = nullptr;
 }

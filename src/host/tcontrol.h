@@ -12,6 +12,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <utility>
+
 
 
 namespace ControlStyles {
@@ -255,6 +257,10 @@ private:
     bool FPictureValid = false;
     bool FInBounds = false;
     bool FShowHint = true;
+    // The palettes (own, application) when last compared, and whether the
+    // control's own differed: its system colours then come from it.
+    std::pair<qint64, qint64> FPaletteKeys{-1, -1};
+    bool FOwnPalette = false;
     bool FParentShowHint = true;
     bool FDragging = false;
     TCursor FCursor = 0;
