@@ -39,6 +39,14 @@ class TColorButton : public Base
     static constexpr bool kWindowed = std::is_base_of_v<TCustomControl, Base>;
 
 public:
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
+    bool AccessiblePress() override
+    {
+        if (!this->isEnabled())
+            return false;
+        this->Click();
+        return true;
+    }
     bool Flat() const { return FFlat; }
     void SetFlat(bool flat)
     {

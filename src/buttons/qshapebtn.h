@@ -30,6 +30,14 @@ class TqShapeBtn : public TGraphicControl
     Q_PROPERTY(bool Visible READ Visible WRITE SetVisible)
 
 public:
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
+    bool AccessiblePress() override
+    {
+        if (!isEnabled())
+            return false;
+        Click();
+        return true;
+    }
     enum sbType {
         sbRectangle, sbUpTriangle, sbDnTriangle, sbLTriangle, sbRTriangle, sbTLTriangle, sbTRTriangle,
         sbBLTriangle, sbBRTriangle, sbPlus, sbMinus, sbCircle, sbOwnerDraw

@@ -60,6 +60,12 @@ public:
     explicit TqcPeakOmeter(QWidget *parent = nullptr);
 
     int Value() const { return FValue; }
+    QAccessible::Role AccessibleRole() const override { return QAccessible::ProgressBar; }
+    bool AccessibleRange(TAccessibleRange &range) const override
+    {
+        range = {0, double(FMax), double(FValue), 1, true};
+        return true;
+    }
     void SetValue(int value);
     // One sample: the same as setting Value.
     void Push(int sample) { SetValue(sample); }

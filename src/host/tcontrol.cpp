@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "tapplication.h"
+#include "tcontrolaccessible.h"
 
 #include <QGuiApplication>
 
@@ -83,6 +84,7 @@ Qt::CursorShape CursorShape(TCursor cursor)
 
 TControl::TControl(QWidget *parent) : QWidget(parent), TComponentCore(this)
 {
+    TControlAccessible::Install();
     setMouseTracking(true);
     setAcceptDrops(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -820,4 +822,33 @@ void TControlCanvas::Flush()
         FOverlay = new CanvasOverlay(FWidget);
     if (FOverlay)
         static_cast<CanvasOverlay *>(FOverlay)->Show(FPicture, changed);
+}
+
+QString TControl::AccessibleName() const
+{
+    if (!accessibleName().isEmpty())
+        return accessibleName();
+    if (!Text().isEmpty()) {
+        // The caption without its accelerator mark ("&&" is an ampersand).
+        QString text = Text();
+        text.replace(QLatin1String("&&"), QString(QChar(0x1)));
+        text.remove(QLatin1Char('&'));
+        return text.replace(QChar(0x1), QLatin1Char('&'));
+    }
+    const QString hint = toolTip();
+    if (!hint.isEmpty())
+        return hint.section(QLatin1Char('|'), 0, 0);
+    return objectName();
+}
+
+void TControl::AccessibleValueChanged()
+{
+    // Only while a screen reader listens (the platform says so).
+    if (!QAccessible::isActive())
+        return;
+    TAccessibleRange range;
+    if (!AccessibleRange(range))
+        return;
+    QAccessibleValueChangeEvent event(this, range.Value);
+    QAccessible::updateAccessibility(&event);
 }

@@ -6,6 +6,7 @@
 #include "tcanvas.h"
 #include "tcomponent.h"
 
+#include <QAccessible>
 #include <QImage>
 #include <QObject>
 #include <QMenu>
@@ -109,6 +110,24 @@ public:
     void SetShowHint(bool show);
     bool ParentShowHint() const { return FParentShowHint; }
     void SetParentShowHint(bool parentShowHint) { FParentShowHint = parentShowHint; }
+
+    // What assistive technology reads of the control: a role, a name (the
+    // accessible name set on it, else its text, else its hint's short part,
+    // else its object name), and for a control that holds a number its
+    // range and value, which a screen reader may also set.
+    struct TAccessibleRange
+    {
+        double Min = 0, Max = 0, Value = 0, Step = 1;
+        bool ReadOnly = false;
+    };
+    virtual QAccessible::Role AccessibleRole() const { return QAccessible::Client; }
+    virtual QString AccessibleName() const;
+    virtual bool AccessibleRange(TAccessibleRange &range) const { Q_UNUSED(range); return false; }
+    virtual void SetAccessibleValue(double value) { Q_UNUSED(value); }
+    // A button's press, for a screen reader's "press" action.
+    virtual bool AccessiblePress() { return false; }
+    // Tells assistive technology that the value changed.
+    void AccessibleValueChanged();
 
     // Cursors by the platform's numbers (crDefault 0, crArrow -2 ... crDrag -12).
     TCursor Cursor() const { return FCursor; }

@@ -91,6 +91,13 @@ public:
     int Max() const { return FMax; }
     void SetMax(int max);
     int Value() const { return FValue; }
+    // Read by a screen reader as a bar of Min..Max.
+    QAccessible::Role AccessibleRole() const override { return QAccessible::ProgressBar; }
+    bool AccessibleRange(TAccessibleRange &range) const override
+    {
+        range = {double(FMin), double(FMax), double(FValue), 1, true};
+        return true;
+    }
     void SetValue(int value);
     void AddValue(int delta) { SetValue(FValue + delta); }
     int Margin() const { return FMargin; }

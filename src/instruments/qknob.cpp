@@ -130,6 +130,7 @@ void TqKnob::ApplyValue(int &field, int value, const std::function<void()> &atMi
 {
     field = value > FMax ? FMax : value < FMin ? FMin : value;
     emit OnChange(this);
+    AccessibleValueChanged();
     // The requested value decides: one below Min is clamped silently.
     if (value == FMin)
         atMin();

@@ -88,6 +88,14 @@ public:
     KnobColorType KnobColor() const { return FKnobColor; }
     void SetKnobCol(KnobColorType color);
     int Value() const { return FValue; }
+    // Read and turned by a screen reader as a dial.
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Dial; }
+    bool AccessibleRange(TAccessibleRange &range) const override
+    {
+        range = {double(FMin), double(FMax), double(FValue), 1, false};
+        return true;
+    }
+    void SetAccessibleValue(double value) override { SetKnobValue(qRound(value)); }
     // Clamps into Min..Max, raises OnChange (every call), OnMinimum or
     // OnMaximum when the requested value is that bound, and repaints at once.
     void SetKnobValue(int value);

@@ -108,6 +108,13 @@ public:
     int Alert() const { return FAlert; }
     void SetAlert(int alert);
     int Value() const { return FValue; }
+    // Read by a screen reader as a bar of Min..Max.
+    QAccessible::Role AccessibleRole() const override { return QAccessible::ProgressBar; }
+    bool AccessibleRange(TAccessibleRange &range) const override
+    {
+        range = {double(FMin), double(FMax), double(FValue), 1, true};
+        return true;
+    }
     // Clamps, raises OnAlert or OnNotAlert on a crossing, then OnChange
     // (every time, changed or not), and repaints at once.
     void SetValue(int value);

@@ -169,6 +169,7 @@ void TqSlideBar::SetPosition(int value)
     if (value >= FMin && value <= FMax)
         FValue = value;
     Refresh();
+    AccessibleValueChanged();
     if (IsDesigning())
         return;
     emit OnChange(this);

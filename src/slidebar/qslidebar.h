@@ -106,6 +106,13 @@ public:
     TOrientation Orientation() const { return FOrientation; }
     void SetOrientation(TOrientation orientation);
     int Value() const { return FValue; }
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Slider; }
+    bool AccessibleRange(TAccessibleRange &range) const override
+    {
+        range = {double(FMin), double(FMax), double(FValue), 1, false};
+        return true;
+    }
+    void SetAccessibleValue(double value) override { SetPosition(qRound(value)); }
     // Nothing when unchanged; a value outside Min..Max is not taken, but
     // the events still come (outside the designer): OnChange, then
     // OnMinimum or OnMaximum when Value sits on that bound.
