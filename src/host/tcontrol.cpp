@@ -453,6 +453,9 @@ void TControl::copyBeneath(QPainter &painter)
         FBuffer.fill(ColorToQRgb(Color()));
         return;
     }
+    // On a high-density screen the surface has more pixels than the control:
+    // one in so many, at the control's own ratio of 1.
+    beneath.setDevicePixelRatio(1);
     if (beneath.size() != FBuffer.size())
         beneath = beneath.scaled(FBuffer.size());
     FBuffer = beneath.format() == QImage::Format_RGB32 ? beneath : beneath.convertToFormat(QImage::Format_RGB32);
