@@ -8,6 +8,7 @@
 
 #include "testutil.h"
 
+#include <QPushButton>
 #include <QToolTip>
 
 namespace {
@@ -121,6 +122,19 @@ void tst_Labels::linkLightsAndClicks()
     QTest::mouseMove(&shown.form, QPoint(190, 190));   // the mouse away: plain again
     QTRY_VERIFY(!link->Hot());
     QVERIFY(has(qRgb(0, 0, 255)) && !has(qRgb(255, 0, 0)));
+    // From the keyboard: reached with Tab, clicked with Enter or Space.
+    auto *before = new QPushButton(&shown.form);
+    before->move(0, 150);
+    before->show();
+    QWidget::setTabOrder(before, link);
+    shown.form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&shown.form));
+    before->setFocus();
+    QTest::keyClick(before, Qt::Key_Tab);
+    QTRY_VERIFY(link->hasFocus());
+    QTest::keyClick(link, Qt::Key_Return);
+    QTest::keyClick(link, Qt::Key_Space);
+    QCOMPARE(clicks.count(), 3);
 }
 
 void tst_Labels::bigCaptionOutlineAndShadow()

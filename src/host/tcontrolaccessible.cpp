@@ -98,7 +98,8 @@ QStringList TControlAccessible::actionNames() const
 {
     QStringList names = QAccessibleWidget::actionNames();
     TControl::TAccessibleRange range;
-    if (control()->AccessibleRole() == QAccessible::Button)
+    const QAccessible::Role role = control()->AccessibleRole();
+    if (role == QAccessible::Button || role == QAccessible::Link)
         names.prepend(pressAction());
     else if (control()->AccessibleRange(range) && !range.ReadOnly)
         names << increaseAction() << decreaseAction();
@@ -108,7 +109,7 @@ QStringList TControlAccessible::actionNames() const
 void TControlAccessible::doAction(const QString &actionName)
 {
     TControl::TAccessibleRange range;
-    if (actionName == pressAction() && control()->AccessibleRole() == QAccessible::Button)
+    if (actionName == pressAction())
         control()->AccessiblePress();
     else if ((actionName == increaseAction() || actionName == decreaseAction()) && control()->AccessibleRange(range)
              && !range.ReadOnly)

@@ -1,6 +1,7 @@
 #pragma once
 // A caption that acts as a link: while the mouse is over it, it takes
-// HotColor, an underline and the pointing hand; a click fires OnClick.
+// HotColor, an underline and the pointing hand; a click fires OnClick. Tab
+// reaches it (a dotted frame shows the focus) and Enter or Space clicks it.
 //
 // Properties (defaults): Caption, FontColor (clBlue), HotColor (clRed),
 // HotUnderline (true), Font, Alignment (taLeftJustify), Transparent (true),
@@ -32,10 +33,16 @@ public:
     // Whether the mouse is over it now.
     bool Hot() const { return FHot; }
 
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Link; }
+    bool AccessiblePress() override;
+
 protected:
     void PaintCaption(TCanvas &canvas, QPoint at) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     TColor FHotColor = clRed;
