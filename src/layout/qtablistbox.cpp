@@ -71,10 +71,7 @@ public:
 
         const QStringList parts = index.data().toString().split(QLatin1Char('\t'));
         const QFontMetrics metrics(option.font);
-        QList<int> widths;
-        for (const QString &part : parts)
-            widths << metrics.horizontalAdvance(part);
-        const QList<int> columns = TabColumns(widths, FBox->PixelTabs(), 8 * metrics.averageCharWidth());
+        const QList<int> columns = FBox->rowColumns(parts, metrics);
         painter->save();
         painter->setFont(option.font);
         painter->setPen((option.state & QStyle::State_Selected)
@@ -91,11 +88,8 @@ public:
     {
         const QFontMetrics metrics(option.font);
         const QStringList parts = index.data().toString().split(QLatin1Char('\t'));
-        QList<int> widths;
-        for (const QString &part : parts)
-            widths << metrics.horizontalAdvance(part);
-        const QList<int> columns = TabColumns(widths, FBox->PixelTabs(), 8 * metrics.averageCharWidth());
-        return QSize(TextMargin * 2 + columns.last() + widths.last(), metrics.height() + 2);
+        const QList<int> columns = FBox->rowColumns(parts, metrics);
+        return QSize(TextMargin * 2 + columns.last() + metrics.horizontalAdvance(parts.last()), metrics.height() + 2);
     }
 
 private:
@@ -234,15 +228,19 @@ QList<int> TqTabListbox::ColumnsOf(int row) const
     const QModelIndex index = FModel->index(row);
     if (!index.isValid())
         return {};
-    const QFontMetrics metrics(font());
-    QList<int> widths;
-    for (const QString &part : index.data().toString().split(QLatin1Char('\t')))
-        widths << metrics.horizontalAdvance(part);
-    QList<int> columns = TabColumns(widths, PixelTabs(), 8 * metrics.averageCharWidth());
+    QList<int> columns = rowColumns(index.data().toString().split(QLatin1Char('\t')), QFontMetrics(font()));
     const int left = visualRect(index).left() + TextMargin;
     for (int &x : columns)
         x += left;
     return columns;
+}
+
+QList<int> TqTabListbox::rowColumns(const QStringList &parts, const QFontMetrics &metrics) const
+{
+    QList<int> widths;
+    for (const QString &part : parts)
+        widths << metrics.horizontalAdvance(part);
+    return TabColumns(widths, PixelTabs(), 8 * metrics.averageCharWidth());
 }
 
 // System colours follow the palette, so they are resolved again when it

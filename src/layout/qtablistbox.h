@@ -23,6 +23,7 @@
 #include "host/tcolor.h"
 #include "host/tcomponent.h"
 
+#include <QFontMetrics>
 #include <QListView>
 
 class QStringListModel;
@@ -99,6 +100,8 @@ protected:
 private:
     class Delegate;
     void applyColors();
+    // Where the parts of a row start, from the left of its text.
+    QList<int> rowColumns(const QStringList &parts, const QFontMetrics &metrics) const;
 
     QStringListModel *FModel;
     QString FTabStops;
