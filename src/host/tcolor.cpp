@@ -1,6 +1,5 @@
 #include "tcolor.h"
 
-#include <QPointer>
 #include <QThread>
 
 #include <array>
@@ -45,72 +44,43 @@ QColor systemColorOf(const QPalette &pal, int index)
     }
 }
 
-// The system colours of the application's palette, looked up once per
-// palette (controls ask for them on every paint). A watcher on the
-// application drops the table when the application's palette changes.
-class SystemColorTable : public QObject
+// The system colours of a palette, looked up once per palette (controls ask
+// for them on every paint): made again when asked about another palette.
+class SystemColorTable
 {
 public:
     static constexpr int kCount = 32;
 
-    static TColor at(int index)
+    TColor at(const QPalette &palette, int index)
     {
-        static QPointer<SystemColorTable> table;
-        if (!table) {
-            table = new SystemColorTable;
-            table->setParent(QCoreApplication::instance());
-            QCoreApplication::instance()->installEventFilter(table);
-        }
-        if (!table->FValid) {
-            const QPalette pal = QGuiApplication::palette();
+        if (palette.cacheKey() != FKey) {
             for (int i = 0; i < kCount; ++i)
-                table->FColors[size_t(i)] = QColorToColor(systemColorOf(pal, i));
-            table->FValid = true;
+                FColors[size_t(i)] = QColorToColor(systemColorOf(palette, i));
+            FKey = palette.cacheKey();
         }
-        return table->FColors[size_t(index)];
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance())
-            FValid = false;
-        return false;
+        return FColors[size_t(index)];
     }
 
 private:
+    qint64 FKey = -1;
     std::array<TColor, kCount> FColors{};
-    bool FValid = false;
 };
 
 // The palette of the scope alive on this thread, if any.
 thread_local const QPalette *scopePalette = nullptr;
 
-// The system colours of the last palette a scope asked for.
-TColor scopedSystemColor(const QPalette &palette, int index)
-{
-    static qint64 key = -1;
-    static std::array<TColor, SystemColorTable::kCount> colors{};
-    if (index < 0 || index >= SystemColorTable::kCount || QThread::currentThread() != qApp->thread())
-        return QColorToColor(systemColorOf(palette, index));
-    if (palette.cacheKey() != key) {
-        for (int i = 0; i < SystemColorTable::kCount; ++i)
-            colors[size_t(i)] = QColorToColor(systemColorOf(palette, i));
-        key = palette.cacheKey();
-    }
-    return colors[size_t(index)];
-}
-
 TColor systemColor(int index)
 {
-    if (scopePalette)
-        return scopedSystemColor(*scopePalette, index);
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return QColorToColor(systemColorOf(QPalette(QColor(0xF0, 0xF0, 0xF0)), index));
+    const QPalette palette = scopePalette ? *scopePalette : QGuiApplication::palette();
     // Off the GUI thread, or an index beyond the table: straight from the palette.
     if (index < 0 || index >= SystemColorTable::kCount || QThread::currentThread() != qApp->thread())
-        return QColorToColor(systemColorOf(QGuiApplication::palette(), index));
-    return SystemColorTable::at(index);
+        return QColorToColor(systemColorOf(palette, index));
+    // One table for the application's palette and one for the controls'
+    // own, so the two do not push each other out.
+    static SystemColorTable application, own;
+    return (scopePalette ? own : application).at(palette, index);
 }
 
 } // namespace
