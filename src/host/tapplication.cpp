@@ -313,20 +313,18 @@ void TApplication::showTip()
         FTipRect = at ? QRect(at->mapToGlobal(info.CursorRect.topLeft()), info.CursorRect.size()) : QRect();
         if (info.HideTimeout > 0)
             FHide.start(info.HideTimeout);
-        FTipControl = control;
-        FSinceTip.invalidate();
-        return;
-    }
-    QToolTip::showText(info.HintPos, text, at, at ? info.CursorRect : QRect(), info.HideTimeout);
-    if (info.HintColor != HintColor()) {
-        // This tip only, in its own colour.
-        for (QWidget *top : QApplication::topLevelWidgets())
-            if (top->inherits("QTipLabel") && top->isVisible()) {
-                QPalette palette = top->palette();
-                palette.setColor(QPalette::ToolTipBase, ColorToQColor(info.HintColor));
-                palette.setColor(QPalette::Window, ColorToQColor(info.HintColor));
-                top->setPalette(palette);
-            }
+    } else {
+        QToolTip::showText(info.HintPos, text, at, at ? info.CursorRect : QRect(), info.HideTimeout);
+        if (info.HintColor != HintColor()) {
+            // This tip only, in its own colour.
+            for (QWidget *top : QApplication::topLevelWidgets())
+                if (top->inherits("QTipLabel") && top->isVisible()) {
+                    QPalette palette = top->palette();
+                    palette.setColor(QPalette::ToolTipBase, ColorToQColor(info.HintColor));
+                    palette.setColor(QPalette::Window, ColorToQColor(info.HintColor));
+                    top->setPalette(palette);
+                }
+        }
     }
     FTipControl = control;
     FSinceTip.invalidate();
