@@ -37,20 +37,9 @@ namespace {
 constexpr int kQuickReshow = 2000;
 constexpr int kQuickPause = 20;
 
-// "short|long": the tip shows the short part, Hint holds the long one.
-QString shortHint(const QString &hint)
-{
-    const qsizetype bar = hint.indexOf(QLatin1Char('|'));
-    return bar < 0 ? hint : hint.left(bar);
-}
-
 QString longHint(const QWidget *w)
 {
-    if (!w->statusTip().isEmpty())
-        return w->statusTip();
-    const QString tip = w->toolTip();
-    const qsizetype bar = tip.indexOf(QLatin1Char('|'));
-    return bar < 0 ? tip : tip.mid(bar + 1);
+    return w->statusTip().isEmpty() ? GetLongHint(w->toolTip()) : w->statusTip();
 }
 
 // The widget whose tip shows over `w`: `w` or its nearest ancestor in the
@@ -72,6 +61,18 @@ QWidget *hintOwner(QWidget *w)
 }
 
 } // namespace
+
+QString GetShortHint(const QString &hint)
+{
+    const qsizetype bar = hint.indexOf(QLatin1Char('|'));
+    return bar < 0 ? hint : hint.left(bar);
+}
+
+QString GetLongHint(const QString &hint)
+{
+    const qsizetype bar = hint.indexOf(QLatin1Char('|'));
+    return bar < 0 ? hint : hint.mid(bar + 1);
+}
 
 TApplication *TApplication::instance()
 {
@@ -302,7 +303,7 @@ void TApplication::showTip()
     info.HintPos = global;
     info.HintColor = HintColor();
     info.HideTimeout = FHintHidePause;
-    QString text = shortHint(control->toolTip());
+    QString text = GetShortHint(control->toolTip());
     bool canShow = true;
     emit OnShowHint(text, canShow, info);
     if (!canShow || text.isEmpty())

@@ -61,6 +61,11 @@ public:
     virtual bool HintShown() const = 0;
 };
 
+// A hint "short|long": the tip shows the short part, the application's Hint
+// and the status line the long one; a hint without a bar is both.
+QString GetShortHint(const QString &hint);
+QString GetLongHint(const QString &hint);
+
 // Help commands as OnHelp receives them.
 enum THelpCommand { HELP_CONTEXT = 1, HELP_QUIT = 2, HELP_INDEX = 3, HELP_KEY = 0x101 };
 

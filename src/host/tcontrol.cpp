@@ -838,9 +838,8 @@ QString TControl::AccessibleName() const
         text.remove(QLatin1Char('&'));
         return text.replace(QChar(0x1), QLatin1Char('&'));
     }
-    const QString hint = toolTip();
-    if (!hint.isEmpty())
-        return hint.section(QLatin1Char('|'), 0, 0);
+    if (!toolTip().isEmpty())
+        return GetShortHint(toolTip());
     return objectName();
 }
 

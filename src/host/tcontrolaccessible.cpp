@@ -1,5 +1,6 @@
 #include "tcontrolaccessible.h"
 
+#include "tapplication.h"
 #include "tcontrol.h"
 
 namespace {
@@ -41,9 +42,7 @@ QString TControlAccessible::text(QAccessible::Text t) const
     case QAccessible::Description: {
         if (!widget()->accessibleDescription().isEmpty())
             return widget()->accessibleDescription();
-        const QString hint = widget()->toolTip();
-        const qsizetype bar = hint.indexOf(QLatin1Char('|'));
-        return bar < 0 ? hint : hint.mid(bar + 1);
+        return GetLongHint(widget()->toolTip());
     }
     default:
         return QAccessibleWidget::text(t);
