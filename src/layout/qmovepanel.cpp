@@ -122,13 +122,10 @@ void TqMovePanel::mouseReleaseEvent(QMouseEvent *event)
     if (FBand)
         FBand->hide();
     const QPoint p = event->position().toPoint();
-    const int x = p.x(), y = p.y(), x0 = FStart.x(), y0 = FStart.y();
-    // The unmoved test as the splitter bar has it: a sum across, a
-    // difference down.
-    if (!(Left() + x + x0 == Left() && Top() + y - y0 == Top())) {
+    if (!DragUnmoved(FStart, p)) {
         const bool visible = Visible();
         SetVisible(false);
-        SetBounds(Left() + x - x0, Top() + y - y0, Width(), Height());
+        SetBounds(Left() + p.x() - FStart.x(), Top() + p.y() - FStart.y(), Width(), Height());
         SetVisible(visible);
     }
     DoUpdate();

@@ -90,15 +90,11 @@ void TqSplit::mouseReleaseEvent(QMouseEvent *event)
     if (FBand)
         FBand->hide();
     const QPoint p = event->position().toPoint();
-    const int x = p.x(), y = p.y(), x0 = FStart.x(), y0 = FStart.y();
-    // The unmoved test as the platform's splitter has it: a sum across,
-    // a difference down.
-    const bool unmoved = Left() + x + x0 == Left() && Top() + y - y0 == Top();
-    if (!unmoved) {
+    if (!DragUnmoved(FStart, p)) {
         if (FVertical)
-            move(Left() + x - x0, Top());
+            move(Left() + p.x() - FStart.x(), Top());
         else
-            move(Left(), Top() + y - y0);
+            move(Left(), Top() + p.y() - FStart.y());
     }
     // Inside the panel.
     const int pw = FPanel->width(), ph = FPanel->height();
