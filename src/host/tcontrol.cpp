@@ -432,18 +432,16 @@ void TControl::copyBeneath(QPainter &painter)
     QImage beneath;
     if (device && device->devType() == QInternal::Image) {
         const auto *surface = static_cast<const QImage *>(device);
-        if (!surface->rect().contains(area)) {
-            FBuffer.fill(ColorToQRgb(Color()));
-            return;
-        }
         // The usual case, straight into the buffer row by row.
-        if (area.size() == FBuffer.size() && surface->depth() == 32 && !surface->hasAlphaChannel()) {
+        const bool inside = surface->rect().contains(area);
+        if (inside && area.size() == FBuffer.size() && surface->depth() == 32 && !surface->hasAlphaChannel()) {
             for (int y = 0; y < area.height(); ++y)
                 std::memcpy(FBuffer.scanLine(y), surface->constScanLine(area.top() + y) + area.left() * 4,
                             size_t(area.width()) * 4);
             return;
         }
-        beneath = surface->copy(area);
+        if (inside)
+            beneath = surface->copy(area);
     } else if (device && device->devType() == QInternal::Pixmap) {
         const auto *surface = static_cast<const QPixmap *>(device);
         if (surface->rect().contains(area))
