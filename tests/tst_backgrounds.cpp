@@ -123,6 +123,17 @@ void tst_Backgrounds::wallpaperOnTheFormAtRunTimeOnly()
     QCOMPARE(shot.pixel(5, 5), qRgb(0, 255, 0));   // OnPaint over it
     form.resize(320, 200);
     QCOMPARE(resizes, 1);
+    // The wallpaper stands in for the form's own background; when there is
+    // none, or the component goes, the form paints its own again.
+    const QRgb own = form.palette().color(QPalette::Window).rgb();
+    QVERIFY(form.testAttribute(Qt::WA_OpaquePaintEvent));
+    back->SetBackType(TqBackground::btNormal);
+    QCOMPARE(form.grab().toImage().pixel(150, 100), own);
+    back->SetBackType(TqBackground::btSteel);
+    QVERIFY(form.grab().toImage().pixel(150, 100) != own);
+    delete back;
+    QVERIFY(!form.testAttribute(Qt::WA_OpaquePaintEvent));
+    QCOMPARE(form.grab().toImage().pixel(150, 100), own);
     // Designed, the form keeps its own background.
     QWidget designedForm;
     designedForm.resize(100, 100);

@@ -20,11 +20,38 @@ void TqBackground::DoColor()
     FBlend = TBlend(FColor, FEndColor);
 }
 
+TqBackground::~TqBackground()
+{
+    if (FTarget && FCovering) {
+        FTarget->setAttribute(Qt::WA_OpaquePaintEvent, false);
+        FTarget->update();
+    }
+}
+
 void TqBackground::changed()
 {
     FPicture = QImage();
-    if (!IsDesigning() && FTarget)
+    if (!IsDesigning() && FTarget) {
+        coverTarget();
         FTarget->update();
+    }
+}
+
+bool TqBackground::HasWallPaper() const
+{
+    return FBackType != btNormal && !(FBackType == btBitmap && FBitmap.isNull())
+        && !(FBackType == btBlend && FBands < 0);
+}
+
+// A wallpaper over a whole window takes the place of the window's own
+// background, which Qt then does not paint first. A form that paints
+// opaquely by itself is left as it is.
+void TqBackground::coverTarget()
+{
+    if (!FTarget->isWindow() || (!FCovering && FTarget->testAttribute(Qt::WA_OpaquePaintEvent)))
+        return;
+    FCovering = HasWallPaper();
+    FTarget->setAttribute(Qt::WA_OpaquePaintEvent, FCovering);
 }
 
 void TqBackground::SetGrad(gradType type)
@@ -78,8 +105,7 @@ void TqBackground::SetBands(int bands)
 
 QImage TqBackground::WallPaper(int w, int h) const
 {
-    if (w <= 0 || h <= 0 || FBackType == btNormal || (FBackType == btBitmap && FBitmap.isNull())
-        || (FBackType == btBlend && FBands < 0))
+    if (w <= 0 || h <= 0 || !HasWallPaper())
         return QImage();
     QImage picture(w, h, QImage::Format_RGB32);
     TCanvas canvas(&picture);
@@ -130,6 +156,7 @@ void TqBackground::Loaded()
         FHook = new TFormHook(FTarget, this, before, [this](QEvent *) { paintWallPaper(); }, {QEvent::Paint});
     else
         FHook = new TFormHook(FTarget, this, before);
+    coverTarget();
     FTarget->update();
 }
 
@@ -143,11 +170,23 @@ bool TqBackground::paintWallPaper()
     QWidget *target = FTarget;
     if (!target || target->window()->isMinimized())
         return false;
-    if (FPicture.size() != target->size())
-        FPicture = WallPaper(target->width(), target->height());
     QPainter painter(target);
+    const auto ownBackground = [&] {
+        if (FCovering)
+            painter.fillRect(target->rect(), target->palette().brush(target->backgroundRole()));
+    };
+    if (FPicture.size() != target->size()) {
+        try {
+            FPicture = WallPaper(target->width(), target->height());
+        } catch (...) {
+            ownBackground();
+            throw;
+        }
+    }
     if (!FPicture.isNull())
         painter.drawImage(0, 0, FPicture);
+    else
+        ownBackground();
     DoPaint(painter);
     return false;
 }

@@ -8,7 +8,8 @@
 //
 // The wallpaper is kept as a picture of the client area's size, made again
 // only when the size or a property changes; OnPaint draws over it on each
-// paint. A ring blend of no ring at all (Bands 0, or a client area less
+// paint. A wallpaper that covers a whole window stands in for the
+// window's own background, which is then not painted under it. A ring blend of no ring at all (Bands 0, or a client area less
 // than 2 pixels wide or high) divides by zero: the error goes to the
 // application object, and the form paints its own background.
 
@@ -37,6 +38,7 @@ public:
     Q_ENUM(TqBackType)
 
     explicit TqBackground(QWidget *owner = nullptr);
+    ~TqBackground() override;
 
     gradType FillType() const { return FFillType; }
     void SetGrad(gradType type);
@@ -57,6 +59,9 @@ public:
     // The wallpaper of a w x h client area as this component paints it
     // (without OnPaint); a null picture where the form paints its own.
     QImage WallPaper(int w, int h) const;
+    // Whether the properties make a wallpaper at all (a bitmap to tile, a
+    // blend of some bands, the steel).
+    bool HasWallPaper() const;
 
 signals:
     // After the wallpaper is painted, with a canvas on the form's picture
@@ -74,6 +79,7 @@ private:
     void DoColor();
     void changed();
     bool paintWallPaper();
+    void coverTarget();
 
     gradType FFillType = gVert;
     QImage FBitmap;
@@ -85,4 +91,5 @@ private:
     QImage FPicture;                // the wallpaper at the target's size
     QPointer<QWidget> FTarget;
     TFormHook *FHook = nullptr;
+    bool FCovering = false;         // the window's own background is left out
 };
