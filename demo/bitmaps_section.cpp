@@ -5,8 +5,10 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QStyle>
+#include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace {
 
@@ -33,6 +35,22 @@ QLabel *shown(QWidget *parent, void (*effect)(TBitmap &))
     effect(b);
     auto *label = new QLabel(parent);
     label->setPixmap(QPixmap::fromImage(b.Image()));
+    return label;
+}
+
+// A button's picture while it is held down: pressed, taken, let go.
+QLabel *heldDown(TControl *button, QWidget *parent)
+{
+    const QPointF centre = QRectF(button->rect()).center();
+    const auto send = [&](QEvent::Type type, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, centre, button->mapToGlobal(centre), Qt::LeftButton, buttons, Qt::NoModifier);
+        QCoreApplication::sendEvent(button, &event);
+    };
+    send(QEvent::MouseButtonPress, Qt::LeftButton);
+    auto *label = new QLabel(parent);
+    label->setPixmap(QPixmap::fromImage(button->RenderImage(parent->palette().color(QPalette::Window).rgb())));
+    send(QEvent::MouseButtonRelease, Qt::NoButton);
+    button->clearFocus();
     return label;
 }
 
@@ -163,6 +181,59 @@ QGroupBox *bitmapsSection(QWidget *parent)
     nwIcon->SetColor(0x00E0E0FF);
     place(nwIcon, 80);
     row(QStringLiteral("TqBitColBtn (left, right, top, disabled), TqNWBitColBtn, TqIconColBtn, TqNWIconColBtn"), buttons);
+
+    // A button with a glyph of its own for the pressed state, and its
+    // picture while held down.
+    auto *pressing = new QWidget(box);
+    auto *pressLine = new QHBoxLayout(pressing);
+    pressLine->setContentsMargins(0, 0, 0, 0);
+    auto *lamp = new TqBitColBtn(pressing);
+    lamp->SetBounds(0, 0, 100, 32);
+    lamp->setFixedSize(100, 32);
+    lamp->SetGlyph(QPixmap::fromImage(small));
+    TBitmap lit;
+    lit.Assign(small);
+    LightenBMP(lit, 60);
+    lamp->SetGlyphDown(QPixmap::fromImage(lit.Image()));
+    lamp->SetCaption(QStringLiteral("Hold me"));
+    lamp->SetColor(0x00D0E8F8);
+    pressLine->addWidget(lamp);
+    pressLine->addWidget(heldDown(lamp, pressing));
+    pressLine->addStretch();
+    row(QStringLiteral("TqBitColBtn with a pressed glyph, and the same button held down"), pressing);
+
+    // Pictures by resource name, and the desktop behind the window.
+    auto *named = new QWidget(box);
+    auto *namedLine = new QHBoxLayout(named);
+    namedLine->setContentsMargins(0, 0, 0, 0);
+    auto *resource = new TqResBitmap(named);
+    resource->SetBounds(0, 0, 48, 48);
+    resource->setFixedSize(48, 48);
+    resource->SetResName(QStringLiteral("gauges/dial.png"));
+    namedLine->addWidget(resource);
+    auto *missing = new TqResBitmap(named);
+    missing->setFixedSize(48, 48);
+    auto *word = new QLabel(named);
+    QObject::connect(missing, &TqResBitmap::OnResourceMissing, word, [word](QObject *, const QString &name) {
+        word->setText(QStringLiteral("no resource \"%1\"").arg(name));
+    });
+    missing->SetResName(QStringLiteral("gauges/missing.png"));
+    namedLine->addWidget(missing);
+    namedLine->addWidget(word);
+    auto *desktop = new TqDesktop(named);
+    desktop->SetBounds(0, 0, 120, 48);
+    desktop->setFixedSize(120, 48);
+    desktop->SetColor(0x00806040);
+    auto *seen = new QLabel(named);
+    QObject::connect(desktop, &TqDesktop::OnPaint, seen, [seen, desktop](QObject *) {
+        seen->setText(desktop->Grabbed() ? QStringLiteral("the screen behind the window")
+                                         : QStringLiteral("no picture of the screen here: its colour"));
+    });
+    namedLine->addSpacing(20);
+    namedLine->addWidget(desktop);
+    namedLine->addWidget(seen);
+    namedLine->addStretch();
+    row(QStringLiteral("TqResBitmap by name (found, missing); TqDesktop"), named);
 
     return box;
 }

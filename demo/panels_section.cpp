@@ -74,11 +74,22 @@ QGroupBox *panelsSection(QWidget *parent)
         under->setText(QStringLiteral("clicks: %1").arg(++n));
     });
     line->addWidget(under);
+    // A non-windowed tile map as a strip of rivets along a gradient.
+    auto *strip = blend<TqBlendPaint>(painters, gVert, 0x00605040, 0x00A09080);
+    auto *rivets = new TqNWTileMap(strip);
+    rivets->SetBitmap(rivetTile());
+    rivets->SetBounds(0, 13, 90, 24);
+    line->addWidget(strip);
     line->addStretch();
-    row(QStringLiteral("TqBlendPaint in three directions and steel, TqTileMap, TqNWBlendPaint (click through)"), painters);
+    row(QStringLiteral("TqBlendPaint in three directions and steel, TqTileMap, TqNWBlendPaint (click through), "
+                       "TqNWTileMap"),
+        painters);
 
-    // A splitter between two panels full of controls.
-    auto *split = new TqVerSplit(box);
+    // Splitters between panels full of controls.
+    auto *splits = new QWidget(box);
+    auto *splitLine = new QHBoxLayout(splits);
+    splitLine->setContentsMargins(0, 0, 0, 0);
+    auto *split = new TqVerSplit(splits);
     split->SetBounds(0, 0, 420, 90);
     split->setFixedSize(420, 90);
     split->SetNewLook(true);
@@ -103,7 +114,28 @@ QGroupBox *panelsSection(QWidget *parent)
         split->SetLeftTop(left);
         split->SetRightBottom(right);
     });
-    row(QStringLiteral("TqVerSplit: drag the bar"), split);
+    splitLine->addWidget(split);
+    auto *upright = new TqHorSplit(splits);
+    upright->SetBounds(0, 0, 200, 90);
+    upright->setFixedSize(200, 90);
+    upright->SetWhereSplit(40);
+    auto *top = new TqBlendPaint(upright);
+    top->SetGrad(gHorz);
+    top->SetColor(0x00400000);
+    top->SetEndColor(0x00C08040);
+    upright->SetLeftTop(top);
+    auto *bottom = new TqBlendPaint(upright);
+    bottom->SetSteel(true);
+    upright->SetRightBottom(bottom);
+    auto *caption = new QLabel(QStringLiteral("drag the bar up or down"), bottom);
+    caption->move(8, 8);
+    QObject::connect(upright, &TqHorSplit::OnSplitChange, upright, [upright, top, bottom](QObject *) {
+        upright->SetLeftTop(top);
+        upright->SetRightBottom(bottom);
+    });
+    splitLine->addWidget(upright);
+    splitLine->addStretch();
+    row(QStringLiteral("TqVerSplit and TqHorSplit: drag the bars"), splits);
 
     // A move panel in an area: drag it; it sticks to the edge chosen.
     auto *area = new TqBlendPaint(box);

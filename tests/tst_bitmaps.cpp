@@ -257,6 +257,17 @@ void tst_Bitmaps::glyphButtons()
     QImage off = button->RenderImage();
     QCOMPARE(off.pixel(at + QPoint(4, 4)), qRgb(76, 76, 76));     // grey (x + y even)
     QCOMPARE(off.pixel(at + QPoint(5, 4)), qRgb(192, 255, 192));  // the checker (odd)
+    // With a caption, the glyph keeps clear of it also while the caption is
+    // bold (the default button), and the pair stays centred.
+    button->setEnabled(true);
+    button->SetBounds(0, 0, 120, 30);
+    button->SetCaption(QStringLiteral("Measure"));
+    const TGlyphPlaces plain = button->Places();
+    button->SetDefault(true);
+    const TGlyphPlaces bold = button->Places();
+    QVERIFY(bold.caption.width() > plain.caption.width());
+    QVERIFY(bold.glyph.right() + 4 < bold.caption.left());
+    QVERIFY(qAbs(bold.glyph.left() - (119 - bold.caption.right())) <= 1);
     // An icon keeps its own transparency.
     QImage icon(16, 16, QImage::Format_ARGB32);
     icon.fill(Qt::transparent);

@@ -47,7 +47,12 @@ public:
         const QImage glyph = GlyphImage(false);
         QSize text;
         if (!this->Caption().isEmpty()) {
-            const QFontMetrics metrics(this->CanvasFont().ToQFont());
+            // Measured as drawn: the style is bold while the button has the
+            // focus or is the default, and plain otherwise.
+            TFont drawn = this->CanvasFont();
+            drawn.SetStyle(this->BoldCaption() ? fsBold : 0);
+            const QFont font = drawn.ToQFont();
+            const QFontMetrics metrics(font);
             text = QSize(metrics.horizontalAdvance(this->Caption()), metrics.height());
         }
         return GlyphPlaces(QRect(3, 3, this->width() - 6, this->height() - 6), glyph.size(), text, FLayout, FMargin,
