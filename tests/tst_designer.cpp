@@ -599,18 +599,23 @@ void tst_Designer::helpPagesAreBuilt()
 {
     const QString dir = HelpDirectory();
     QVERIFY2(!dir.isEmpty(), "the help of the build tree was not found");
-    for (const TComponentEntry &e : Components()) {
-        QFile page(dir + QStringLiteral("/html/") + HelpPage(e.helpContext));
+    std::vector<TComponentEntry> entries = Components();
+    entries.insert(entries.end(), CodeOnlyComponents().begin(), CodeOnlyComponents().end());
+    for (const TComponentEntry &e : entries) {
+        const bool codeOnly = e.page == kCodeOnlyPage;
+        QFile page(dir + QStringLiteral("/html/") + (codeOnly ? QString::fromLatin1(e.className).toLower() + QStringLiteral(".html")
+                                                               : HelpPage(e.helpContext)));
         QVERIFY2(page.open(QIODevice::ReadOnly), qPrintable(page.fileName()));
         const QString html = QString::fromUtf8(page.readAll());
         const QImage picture(dir + QStringLiteral("/html/") + QString::fromLatin1(e.className).toLower() + QStringLiteral(".png"));
         QVERIFY2(!picture.isNull(), e.className);
         // Every property and event the component publishes is on its page.
-        const QMetaObject *meta = e.create(nullptr)->metaObject();
+        const std::unique_ptr<QWidget> made(e.create(nullptr));
+        const QMetaObject *meta = made->metaObject();
         for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i)
             QVERIFY2(html.contains(QStringLiteral("<code>%1</code>").arg(QLatin1String(meta->property(i).name()))),
                      meta->property(i).name());
-        QVERIFY(html.contains(QStringLiteral("help topic %1").arg(e.helpContext)));
+        QVERIFY(html.contains(codeOnly ? QStringLiteral("made in code") : QStringLiteral("help topic %1").arg(e.helpContext)));
     }
     QFile project(dir + QStringLiteral("/html/qcol.qhp"));
     QVERIFY(project.open(QIODevice::ReadOnly));

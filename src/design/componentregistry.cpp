@@ -365,6 +365,18 @@ const std::vector<TComponentEntry> kComponents = {
      make<TqNWIconColBtn>, nullptr, true},
 };
 
+// Classes of the collection that are not in the widget box: made in code.
+const std::vector<TComponentEntry> kCodeOnly = {
+    {"TqResBitmap", "buttons/qanimate.h", kCodeOnlyPage, 0, "Picture from the resources",
+     "The picture control with its picture loaded by name from the application's Qt resources; "
+     "a missing name leaves it empty and says so through OnResourceMissing.",
+     make<TqResBitmap>, nullptr, true},
+    {"TqDesktop", "buttons/qanimate.h", kCodeOnlyPage, 0, "Desktop behind the form",
+     "Shows the part of the screen it covers, taken before its form first shows; where the "
+     "window system gives no picture of the screen it shows its colour.",
+     make<TqDesktop>, nullptr, true},
+};
+
 } // namespace
 
 QString PageName(int page)
@@ -372,7 +384,8 @@ QString PageName(int page)
     switch (page) {
     case 0: return QStringLiteral("QuovarSoft");
     case 1: return QStringLiteral("QuovarSoft II");
-    default: return QStringLiteral("QuovarSoft III");
+    case 2: return QStringLiteral("QuovarSoft III");
+    default: return QStringLiteral("Made in code");
     }
 }
 
@@ -390,6 +403,8 @@ const TComponentEntry *FindComponent(const QObject *object)
 {
     return FindComponent(QString::fromLatin1(object->metaObject()->className()));
 }
+
+const std::vector<TComponentEntry> &CodeOnlyComponents() { return kCodeOnly; }
 
 QStringList ReadOnlyProperties(const TComponentEntry &entry)
 {

@@ -79,8 +79,11 @@ QString componentPage(const TComponentEntry &e, const QString &htmlDir)
     QTextStream out(&body);
     out << "<p><a href=\"index.html\">QuovarCollection</a> &rsaquo; " << esc(PageName(e.page)) << "</p>\n";
     out << "<h1>" << cls << "</h1>\n<p>" << esc(QString::fromLatin1(e.whatsThis)) << "</p>\n";
-    out << "<p>Header: <code>#include &lt;" << e.includeFile << "&gt;</code> &middot; widget-box group \""
-        << esc(PageName(e.page)) << "\" &middot; help topic " << e.helpContext << "</p>\n";
+    out << "<p>Header: <code>#include &lt;" << e.includeFile << "&gt;</code> &middot; ";
+    if (e.page == kCodeOnlyPage)
+        out << "not in the widget box: made in code</p>\n";
+    else
+        out << "widget-box group \"" << esc(PageName(e.page)) << "\" &middot; help topic " << e.helpContext << "</p>\n";
 
     // The picture: the component as it first appears on a form in Designer.
     const std::unique_ptr<QWidget> designed = CreateSample(e);
@@ -142,9 +145,11 @@ int main(int argc, char **argv)
     QString keywords, files;
     QTextStream kw(&keywords), fl(&files);
     int lastPage = -1;
-    for (const TComponentEntry &e : Components()) {
+    std::vector<TComponentEntry> entries = Components();
+    entries.insert(entries.end(), CodeOnlyComponents().begin(), CodeOnlyComponents().end());
+    for (const TComponentEntry &e : entries) {
         const QString cls = QString::fromLatin1(e.className);
-        const QString file = HelpPage(e.helpContext);
+        const QString file = cls.toLower() + QStringLiteral(".html");
         if (!writeFile(htmlDir + QLatin1Char('/') + file, componentPage(e, htmlDir)))
             return 1;
         const QString icon = cls.toLower() + QStringLiteral("-icon.png");
@@ -155,7 +160,10 @@ int main(int argc, char **argv)
         }
         idx << "<li><img src=\"" << icon << "\" alt=\"\"> <a href=\"" << file << "\">" << cls << "</a> &ndash; "
             << esc(QString::fromLatin1(e.toolTip)) << "</li>\n";
-        kw << "      <keyword name=\"" << cls << "\" id=\"" << e.helpContext << "\" ref=\"" << file << "\"/>\n";
+        kw << "      <keyword name=\"" << cls << "\"";
+        if (e.helpContext > 0)
+            kw << " id=\"" << e.helpContext << "\"";
+        kw << " ref=\"" << file << "\"/>\n";
         fl << "      <file>" << file << "</file>\n      <file>" << cls.toLower() << ".png</file>\n      <file>" << icon
            << "</file>\n";
     }
