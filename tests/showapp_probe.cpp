@@ -1,10 +1,14 @@
 // A program with a TqShowApp on its form, for the single-instance tests: it
 // prints "first" or "second", then "another" for every later start it hears
-// of. With "nobring" a second start keeps the first where it is.
+// of. With "nobring" a second start keeps the first where it is. With
+// "state FILE" it only follows its start-up show command and writes the
+// form's state to FILE ("normal", "minimized" or "maximized").
 //     showapp_probe [nobring]
+//     showapp_probe state FILE
 #include "services/mystd.h"
 
 #include <QApplication>
+#include <QFile>
 
 #include <cstdio>
 
@@ -17,6 +21,19 @@ int main(int argc, char **argv)
         std::fflush(stdout);
     };
     auto *info = new TqShowApp(&form);
+    const qsizetype state = app.arguments().indexOf(QStringLiteral("state"));
+    if (state > 0) {
+        info->SetUseCmdShow(true);
+        info->QueueLoaded();
+        info->FinishLoading();
+        QFile out(app.arguments().value(state + 1));
+        if (!out.open(QIODevice::WriteOnly))
+            return 1;
+        out.write(form.windowState() & Qt::WindowMinimized   ? "minimized"
+                  : form.windowState() & Qt::WindowMaximized ? "maximized"
+                                                             : "normal");
+        return 0;
+    }
     info->SetOnlyOneInstance(true);
     const bool bring = !app.arguments().contains(QStringLiteral("nobring"));
     QObject::connect(info, &TqShowApp::OnSecondInstance, [&](QObject *, bool &toFront) {

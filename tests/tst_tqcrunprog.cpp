@@ -1,8 +1,9 @@
 // The program runner with real programs: command lines split without a
 // shell, start failures mapped to result codes, the events in order for
 // each way of waiting, exit codes, the caller's events during a soft wait,
-// no open files handed on, and a soft wait cut short by the application's
-// end.
+// no open files handed on, the show command handed on to the program, and
+// a soft wait cut short by the application's end.
+#include "services/showcommand.h"
 #include "services/std2.h"
 
 #include "testutil.h"
@@ -42,6 +43,7 @@ private slots:
     void startFailures();
     void waitingAndExitCodes();
     void noOpenFilesHandedOn();
+    void showCommandHandedOn();
     void aThousandStartsLeakNothing();
     void softWaitEndsWithTheApplication();
 };
@@ -134,6 +136,45 @@ void tst_TqcRunProg::noOpenFilesHandedOn()
     r.run.Run();
     ::close(fd);
     QCOMPARE(r.run.ReturnCode(), 0);
+}
+
+void tst_TqcRunProg::showCommandHandedOn()
+{
+    // The program finds Visiblility as its show number, in place of the
+    // caller's own.
+    qputenv(kShowCommandVariable, "9");
+    QTemporaryDir dir;
+    const QString seen = dir.filePath(QStringLiteral("seen"));
+    const auto read = [&] {
+        QFile f(seen);
+        return f.open(QIODevice::ReadOnly) ? QString::fromLatin1(f.readAll()) : QString();
+    };
+    Runner r;
+    r.run.SetVisiblility(TqcRunProg::qrs_SHOWMAXIMIZED);
+    r.run.SetCmdLine(QStringLiteral("sh -c 'printf %s \"$QC_SHOW_COMMAND\" > %1'").arg(seen));
+    r.run.Run();
+    QCOMPARE(read(), QStringLiteral("3"));
+    qunsetenv(kShowCommandVariable);
+    // A program with the application information follows it.
+    const QList<std::pair<TqcRunProg::TqcRunShow, QString>> cases = {
+        {TqcRunProg::qrs_SHOWMINNOACTIVE, QStringLiteral("minimized")},
+        {TqcRunProg::qrs_SHOWMAXIMIZED, QStringLiteral("maximized")},
+        {TqcRunProg::qrs_HIDE, QStringLiteral("normal")},
+    };
+    for (const auto &[show, state] : cases) {
+        r.run.SetVisiblility(show);
+        r.run.SetCmdLine(QStringLiteral(QC_SHOWAPP_PROBE " state %1").arg(seen));
+        r.run.Run();
+        QCOMPARE(r.run.ReturnCode(), 0);
+        QCOMPARE(read(), state);
+    }
+    // The command line wins over the variable; a number out of range or no
+    // number is no show command, and the form starts normal.
+    QCOMPARE(StartupShowCommand({QStringLiteral("app"), QStringLiteral("--maximized")}, QStringLiteral("6")), 3);
+    QCOMPARE(StartupShowCommand({QStringLiteral("app")}, QStringLiteral("6")), 6);
+    QCOMPARE(StartupShowCommand({QStringLiteral("app")}, QStringLiteral("11")), -1);
+    QCOMPARE(StartupShowCommand({QStringLiteral("app")}, QStringLiteral("max")), -1);
+    QCOMPARE(StartStateOf(-1), TStartState::Normal);
 }
 
 namespace {

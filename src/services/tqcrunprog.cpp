@@ -1,5 +1,7 @@
 #include "tqcrunprog.h"
 
+#include "services/showcommand.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -7,6 +9,7 @@
 #include <QSocketNotifier>
 
 #include <cerrno>
+#include <cstring>
 #include <spawn.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -151,10 +154,19 @@ void TqcRunProg::RunThis(const QString &commandLine)
         for (QByteArray &a : args)
             argv.push_back(a.data());
         argv.push_back(nullptr);
+        // The caller's environment with the show command in place of any
+        // the caller was given.
+        const QByteArray show = QByteArray(kShowCommandVariable) + '=' + QByteArray::number(int(FShow));
+        std::vector<char *> envp;
+        for (char **e = environ; *e; ++e)
+            if (std::strncmp(*e, show.constData(), sizeof(kShowCommandVariable)) != 0)
+                envp.push_back(*e);
+        envp.push_back(const_cast<char *>(show.constData()));
+        envp.push_back(nullptr);
         posix_spawn_file_actions_t actions;
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_addclosefrom_np(&actions, 3);   // only stdin, stdout, stderr go along
-        error = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ);
+        error = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), envp.data());
         posix_spawn_file_actions_destroy(&actions);
     }
     if (error != 0) {

@@ -7,9 +7,10 @@
 // run: nothing in it is expanded or executed besides the program itself,
 // looked up on PATH when it has no '/'. The program gets the caller's
 // environment and current directory and none of its open files besides
-// standard input, output and error. Visiblility is for window systems that
-// pass a show command to a starting program; programs on Linux choose their
-// own first window state, so it is kept and not passed on.
+// standard input, output and error. Visiblility goes to the program as its
+// show number in the environment variable QC_SHOW_COMMAND, which a program
+// with a TqShowApp (UseCmdShow) follows; other programs choose their own
+// first window state (services/showcommand.h).
 //
 // Waiting: a soft wait (HardWait false) runs the caller's event loop until
 // the program ends, without polling, so the interface stays alive and may

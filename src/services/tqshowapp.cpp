@@ -1,5 +1,7 @@
 #include "tqshowapp.h"
 
+#include "services/showcommand.h"
+
 #include "host/tform.h"
 #include "host/tformat.h"
 #include "platform/instancechannel.h"
@@ -178,20 +180,18 @@ void TqShowApp::Loaded()
 
 void TqShowApp::showCommand(QWidget *form)
 {
-    const QStringList args = QCoreApplication::arguments();
-    const auto has = [&](std::initializer_list<const char *> names) {
-        for (const char *n : names)
-            if (args.contains(QLatin1String(n)))
-                return true;
-        return false;
-    };
-    if (has({"-iconic", "--minimized", "-minimized"})) {
+    const int command = StartupShowCommand(QCoreApplication::arguments(), qEnvironmentVariable(kShowCommandVariable));
+    switch (StartStateOf(command)) {
+    case TStartState::Minimized:
         SetShowMainForm(false);
         form->setWindowState(Qt::WindowMinimized);
-    } else if (has({"--maximized", "-maximized"})) {
+        break;
+    case TStartState::Maximized:
         form->setWindowState(Qt::WindowMaximized);
-    } else {
+        break;
+    case TStartState::Normal:
         form->setWindowState(Qt::WindowNoState);
+        break;
     }
 }
 

@@ -97,7 +97,8 @@ public:
     bool OnlyOneInstance() const { return FOnlyOneInstance; }
     void SetOnlyOneInstance(bool only) { FOnlyOneInstance = only; }
     // The form starts minimised or maximised as the start command asks
-    // ("-iconic", "--minimized", "--maximized" on the command line).
+    // ("-iconic", "--minimized", "--maximized" on the command line, or the
+    // show command of a program runner; see services/showcommand.h).
     bool UseCmdShow() const { return FUseCmdShow; }
     void SetUseCmdShow(bool use) { FUseCmdShow = use; }
     // When false, the form shows no taskbar entry (on X11 by the window
