@@ -61,8 +61,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
     auto *box = new QGroupBox(QStringLiteral("Bitmaps"), parent);
     SectionRows row(box);
     auto *effects = new QWidget(box);
-    auto *line = new QHBoxLayout(effects);
-    line->setContentsMargins(0, 0, 0, 0);
+    auto *line = sideBySide(effects);
     line->addWidget(shown(effects, [](TBitmap &) {}));
     line->addWidget(shown(effects, [](TBitmap &b) { BMPRotate(b, 90); }));
     line->addWidget(shown(effects, [](TBitmap &b) { BMPRotate(b, 30); }));
@@ -121,8 +120,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
         QPainter(&strip).drawImage(f * 40, 0, frame.Image().copy((frame.Width() - 40) / 2, (frame.Height() - 40) / 2, 40, 40));
     }
     auto *pictures = new QWidget(box);
-    auto *pictureLine = new QHBoxLayout(pictures);
-    pictureLine->setContentsMargins(0, 0, 0, 0);
+    auto *pictureLine = sideBySide(pictures);
     auto *animation = new TqAnimated(pictures);
     animation->SetBounds(0, 0, 40, 40);
     animation->setFixedSize(40, 40);
@@ -185,8 +183,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
     // A button with a glyph of its own for the pressed state, and its
     // picture while held down.
     auto *pressing = new QWidget(box);
-    auto *pressLine = new QHBoxLayout(pressing);
-    pressLine->setContentsMargins(0, 0, 0, 0);
+    auto *pressLine = sideBySide(pressing);
     auto *lamp = new TqBitColBtn(pressing);
     lamp->SetBounds(0, 0, 100, 32);
     lamp->setFixedSize(100, 32);
@@ -204,8 +201,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
 
     // Pictures by resource name, and the desktop behind the window.
     auto *named = new QWidget(box);
-    auto *namedLine = new QHBoxLayout(named);
-    namedLine->setContentsMargins(0, 0, 0, 0);
+    auto *namedLine = sideBySide(named);
     auto *resource = new TqResBitmap(named);
     resource->SetBounds(0, 0, 48, 48);
     resource->setFixedSize(48, 48);

@@ -16,8 +16,7 @@ namespace {
 QWidget *row(QWidget *parent)
 {
     auto *w = new QWidget(parent);
-    auto *layout = new QHBoxLayout(w);
-    layout->setContentsMargins(0, 0, 0, 0);
+    sideBySide(w);
     return w;
 }
 

@@ -34,8 +34,7 @@ QGroupBox *controlsSection(QWidget *parent)
 
     // Each knob drives a readout: turn it and the number follows.
     auto *knobs = new QWidget(box);
-    auto *knobRow = new QHBoxLayout(knobs);
-    knobRow->setContentsMargins(0, 0, 0, 0);
+    auto *knobRow = sideBySide(knobs);
 
     auto *single = new TqKnob(knobs);
     auto *singleOut = readout(knobs, clLime);
@@ -98,8 +97,7 @@ QGroupBox *controlsSection(QWidget *parent)
     const QMetaEnum styles = QMetaEnum::fromType<TqSlideBar::TThumbStyle>();
     for (int s = 0; s < styles.keyCount(); ++s) {
         auto *cell = new QWidget(bars);
-        auto *row = new QHBoxLayout(cell);
-        row->setContentsMargins(0, 0, 0, 0);
+        auto *row = sideBySide(cell);
         auto *bar = new TqSlideBar(cell);
         bar->SetThumbStyle(TqSlideBar::TThumbStyle(styles.value(s)));
         bar->SetBounds(0, 0, 130, 34);

@@ -17,8 +17,7 @@ namespace {
 QWidget *lampRow(LedStyleType style, bool steel, QWidget *parent)
 {
     auto *row = new QWidget(parent);
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto *layout = sideBySide(row);
     for (int c = TqLed::lctRed; c <= TqLed::lctWhite; ++c) {
         auto *led = new TqLed(row);
         led->SetStyle(style);
@@ -96,8 +95,7 @@ QGroupBox *instrumentsSection(QWidget *parent)
 
     // Meters: the three looks, one in its alert zone.
     auto *meters = new QWidget(box);
-    auto *meterLayout = new QHBoxLayout(meters);
-    meterLayout->setContentsMargins(0, 0, 0, 0);
+    auto *meterLayout = sideBySide(meters);
     auto *standard = new TqPanelMeter(meters);
     standard->SetCaption(QStringLiteral("mA"));
     standard->SetValue(40);

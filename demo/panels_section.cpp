@@ -52,8 +52,7 @@ QGroupBox *panelsSection(QWidget *parent)
     SectionRows row(box);
 
     auto *painters = new QWidget(box);
-    auto *line = new QHBoxLayout(painters);
-    line->setContentsMargins(0, 0, 0, 0);
+    auto *line = sideBySide(painters);
     line->addWidget(blend<TqBlendPaint>(painters, gVert, 0x00402000, 0x00FFC080));
     line->addWidget(blend<TqBlendPaint>(painters, gHorz, 0x00000080, 0x0000FFFF));
     line->addWidget(blend<TqBlendPaint>(painters, gCenter, 0x00004000, 0x0080FF80));
@@ -87,8 +86,7 @@ QGroupBox *panelsSection(QWidget *parent)
 
     // Splitters between panels full of controls.
     auto *splits = new QWidget(box);
-    auto *splitLine = new QHBoxLayout(splits);
-    splitLine->setContentsMargins(0, 0, 0, 0);
+    auto *splitLine = sideBySide(splits);
     auto *split = new TqVerSplit(splits);
     split->SetBounds(0, 0, 420, 90);
     split->setFixedSize(420, 90);
@@ -151,8 +149,7 @@ QGroupBox *panelsSection(QWidget *parent)
         mover->SetStickWhere(on ? TqMovePanel::stRight : TqMovePanel::stNone);
     });
     auto *moveRow = new QWidget(box);
-    auto *moveLine = new QHBoxLayout(moveRow);
-    moveLine->setContentsMargins(0, 0, 0, 0);
+    auto *moveLine = sideBySide(moveRow);
     moveLine->addWidget(area);
     moveLine->addWidget(stick);
     row(QStringLiteral("TqMovePanel"), moveRow);

@@ -3,7 +3,16 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
+
+// A layout that puts `holder`'s widgets side by side, edge to edge with it.
+inline QHBoxLayout *sideBySide(QWidget *holder)
+{
+    auto *line = new QHBoxLayout(holder);
+    line->setContentsMargins(0, 0, 0, 0);
+    return line;
+}
 
 // The rows of a section: a caption on the left, what it shows on the right.
 class SectionRows
