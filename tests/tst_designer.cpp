@@ -117,6 +117,21 @@ QList<QMetaProperty> storedProperties(const QObject *o)
     return out;
 }
 
+// A form of the given children, as Designer stores it.
+QString formXml(const QString &children)
+{
+    return QStringLiteral("<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">%1</widget></ui>")
+        .arg(children);
+}
+
+// A stored form loaded as at run time.
+std::unique_ptr<QWidget> loadForm(QByteArray xml)
+{
+    QBuffer file(&xml);
+    QUiLoader loader;
+    return std::unique_ptr<QWidget>(loader.load(&file));
+}
+
 struct DesignerCore
 {
     QMainWindow top;
@@ -148,6 +163,20 @@ class tst_Designer : public QObject
     Q_OBJECT
     std::unique_ptr<DesignerCore> d;
     QDesignerFormWindowInterface *form() const { return d->form; }
+    // The designer's form made of `children`; the child `name` of class T.
+    template <class T>
+    T *design(const QString &children, const char *name) const
+    {
+        return d->form->setContents(formXml(children)) ? d->form->mainContainer()->findChild<T *>(name) : nullptr;
+    }
+    template <class T>
+    T *designOne(const char *name) const
+    {
+        return design<T>(QStringLiteral("<widget class=\"%1\" name=\"%2\"/>")
+                             .arg(QLatin1String(T::staticMetaObject.className()), QLatin1String(name)),
+                         name);
+    }
+    std::unique_ptr<QWidget> reloaded() const { return loadForm(d->form->contents().toUtf8()); }
 private slots:
     void initTestCase() { d = std::make_unique<DesignerCore>(); }
     void cleanupTestCase() { d.reset(); }
@@ -310,10 +339,8 @@ void tst_Designer::formRoundTripThroughDesigner()
 
 void tst_Designer::colourPropertiesAreColoursAndKeepSystemColours()
 {
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqSegment\" name=\"seg\"/></widget></ui>")));
-    auto *seg = d->form->mainContainer()->findChild<TqSegment *>("seg");
+    auto *seg = designOne<TqSegment>("seg");
+    QVERIFY(seg);
     auto *sheet = d->extension<QDesignerPropertySheetExtension>(seg);
     const int lit = sheet->indexOf("LitColor"), color = sheet->indexOf("Color");
     QCOMPARE(sheet->property(lit).metaType().id(), int(QMetaType::QColor));   // a swatch, not a number
@@ -325,27 +352,18 @@ void tst_Designer::colourPropertiesAreColoursAndKeepSystemColours()
     QCOMPARE(seg->Color(), clBtnFace);
     QCOMPARE(sheet->property(color).value<QColor>().rgb(), ColorToQRgb(clBtnFace));
     // Saved and loaded, it is the system colour again.
-    QByteArray saved = d->form->contents().toUtf8();
-    QBuffer file(&saved);
-    QUiLoader loader;
-    std::unique_ptr<QWidget> loaded(loader.load(&file));
+    const std::unique_ptr<QWidget> loaded = reloaded();
     QCOMPARE(loaded->findChild<TqSegment *>("seg")->Color(), clBtnFace);
     // Name is Designer's objectName; it is not shown twice.
-    QDesignerFormWindowInterface *f = d->form;
-    QVERIFY(f->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqcTimer\" name=\"timer\"/></widget></ui>")));
-    auto *timerSheet = d->extension<QDesignerPropertySheetExtension>(f->mainContainer()->findChild<TqcTimer *>("timer"));
+    auto *timerSheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqcTimer>("timer"));
     QVERIFY(!timerSheet->isVisible(timerSheet->indexOf("Name")));
     QVERIFY(timerSheet->isVisible(timerSheet->indexOf("Interval")));
 }
 
 void tst_Designer::systemColoursAreChosenInTheColoursDialog()
 {
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqcDotLabel\" name=\"label\"/></widget></ui>")));
-    auto *label = d->form->mainContainer()->findChild<TqcDotLabel *>("label");
+    auto *label = designOne<TqcDotLabel>("label");
+    QVERIFY(label);
     QAction *colours = d->extension<QDesignerTaskMenuExtension>(label)->taskActions().last();
     QCOMPARE(colours->text(), QStringLiteral("Colours..."));
     colours->trigger();
@@ -359,20 +377,15 @@ void tst_Designer::systemColoursAreChosenInTheColoursDialog()
     QCOMPARE(label->UnLitColor(), clBtnShadow);
     QCOMPARE(label->LitColor(), clAqua);
     // Stored as changed: the saved form brings the system colour back.
-    QByteArray saved = d->form->contents().toUtf8();
-    QBuffer file(&saved);
-    QUiLoader loader;
-    std::unique_ptr<QWidget> loaded(loader.load(&file));
+    const std::unique_ptr<QWidget> loaded = reloaded();
     QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->UnLitColor(), clBtnShadow);
     QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->LitColor(), clAqua);
 }
 
 void tst_Designer::gaugeCaptionStyleFromItsEditor()
 {
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqGauge\" name=\"gauge\"/></widget></ui>")));
-    auto *gauge = d->form->mainContainer()->findChild<TqGauge *>("gauge");
+    auto *gauge = designOne<TqGauge>("gauge");
+    QVERIFY(gauge);
     auto *menu = d->extension<QDesignerTaskMenuExtension>(gauge);
     QAction *edit = menu->preferredEditAction();   // what a double-click opens
     QVERIFY(edit && menu->taskActions().contains(edit));
@@ -398,10 +411,8 @@ void tst_Designer::gaugeCaptionStyleFromItsEditor()
 
 void tst_Designer::shapeFromTheShapeEditor()
 {
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqShapeBtn\" name=\"shape\"/></widget></ui>")));
-    auto *button = d->form->mainContainer()->findChild<TqShapeBtn *>("shape");
+    auto *button = designOne<TqShapeBtn>("shape");
+    QVERIFY(button);
     QAction *edit = d->extension<QDesignerTaskMenuExtension>(button)->preferredEditAction();
     QVERIFY(edit);
     edit->trigger();
@@ -422,11 +433,10 @@ void tst_Designer::angleFromTheDial()
     QCOMPARE(TqAngleEditor::DialValue(0), 270);
     QCOMPARE(TqAngleEditor::DialValue(90), 180);
     QCOMPARE(TqAngleEditor::AngleOfDial(0), 270);
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqAngleLabel\" name=\"label\"><property name=\"Angle\"><number>30</number></property>"
-        "</widget></widget></ui>")));
-    auto *label = d->form->mainContainer()->findChild<TqAngleLabel *>("label");
+    auto *label = design<TqAngleLabel>(QStringLiteral("<widget class=\"TqAngleLabel\" name=\"label\">"
+                                                      "<property name=\"Angle\"><number>30</number></property></widget>"),
+                                       "label");
+    QVERIFY(label);
     QCOMPARE(label->Angle(), 30);
     QAction *edit = d->extension<QDesignerTaskMenuExtension>(label)->preferredEditAction();
     QVERIFY(edit);
@@ -449,10 +459,9 @@ void tst_Designer::hintFromTheHintEditor()
 {
     // A control that publishes Hint, one whose hint is its tool tip, and a
     // non-visual one without a hint.
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqLed\" name=\"led\"/><widget class=\"Tq3DLabel\" name=\"label\"/>"
-        "<widget class=\"TqcTimer\" name=\"timer\"/></widget></ui>")));
+    QVERIFY(design<QWidget>(QStringLiteral("<widget class=\"TqLed\" name=\"led\"/><widget class=\"Tq3DLabel\" name=\"label\"/>"
+                                           "<widget class=\"TqcTimer\" name=\"timer\"/>"),
+                            "led"));
     const auto hintAction = [&](QWidget *w) -> QAction * {
         for (QAction *a : d->extension<QDesignerTaskMenuExtension>(w)->taskActions())
             if (a->objectName() == QLatin1String("qcolEditHint"))
@@ -490,10 +499,8 @@ void tst_Designer::bitmapFromTheBitmapEditor()
     QImage tile(8, 6, QImage::Format_RGB32);
     tile.fill(Qt::red);
     QVERIFY(tile.save(file));
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqTileMap\" name=\"map\"/></widget></ui>")));
-    auto *map = d->form->mainContainer()->findChild<TqTileMap *>("map");
+    auto *map = designOne<TqTileMap>("map");
+    QVERIFY(map);
     QAction *edit = d->extension<QDesignerTaskMenuExtension>(map)->preferredEditAction();
     QVERIFY(edit);
     const auto open = [&] {
@@ -523,18 +530,13 @@ void tst_Designer::bitmapFromTheBitmapEditor()
     d->form->commandHistory()->undo();
     QVERIFY(map->Bitmap().isNull());
     // The pictures of a saved form come back when it is loaded.
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqBitmap\" name=\"picture\"/><widget class=\"TqBitColBtn\" name=\"button\"/>"
-        "</widget></ui>")));
-    auto *picture = d->form->mainContainer()->findChild<TqBitmap *>("picture");
+    auto *picture = design<TqBitmap>(
+        QStringLiteral("<widget class=\"TqBitmap\" name=\"picture\"/><widget class=\"TqBitColBtn\" name=\"button\"/>"),
+        "picture");
     auto *button = d->form->mainContainer()->findChild<TqBitColBtn *>("button");
     d->form->cursor()->setWidgetProperty(picture, QStringLiteral("Bitmap"), DesignerPixmapValue(file));
     d->form->cursor()->setWidgetProperty(button, QStringLiteral("Glyph"), DesignerPixmapValue(file));
-    QByteArray saved = d->form->contents().toUtf8();
-    QBuffer buffer(&saved);
-    QUiLoader loader;
-    std::unique_ptr<QWidget> loaded(loader.load(&buffer));
+    const std::unique_ptr<QWidget> loaded = reloaded();
     QVERIFY(loaded);
     QCOMPARE(loaded->findChild<TqBitmap *>("picture")->Bitmap().size(), QSize(8, 6));
     QCOMPARE(loaded->findChild<TqBitColBtn *>("button")->Glyph().toImage().pixel(0, 0), qRgb(255, 0, 0));
@@ -542,10 +544,7 @@ void tst_Designer::bitmapFromTheBitmapEditor()
 
 void tst_Designer::calculatorResultsAreReadOnly()
 {
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqCalc\" name=\"calc\"/></widget></ui>")));
-    auto *sheet = d->extension<QDesignerPropertySheetExtension>(d->form->mainContainer()->findChild<TqCalc *>("calc"));
+    auto *sheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqCalc>("calc"));
     for (const char *name : {"NumberNum", "Number", "RegisterA", "RegisterD", "CalcResult", "WhereIsLastError"})
         QVERIFY2(!sheet->isEnabled(sheet->indexOf(name)) && sheet->isVisible(sheet->indexOf(name)), name);
     for (const char *name : {"RegisterF", "RegisterJ", "CalcLine", "RegisterANum"})
@@ -554,9 +553,8 @@ void tst_Designer::calculatorResultsAreReadOnly()
 
 void tst_Designer::verbsOpenTheHelpAtTheContextNumber()
 {
-    QVERIFY(d->form->setContents(QStringLiteral(
-        "<ui version=\"4.0\"><class>F</class><widget class=\"QWidget\" name=\"F\">"
-        "<widget class=\"TqSegmentLabel\" name=\"label\"/><widget class=\"TqcTimer\" name=\"timer\"/></widget></ui>")));
+    QVERIFY(design<QWidget>(
+        QStringLiteral("<widget class=\"TqSegmentLabel\" name=\"label\"/><widget class=\"TqcTimer\" name=\"timer\"/>"), "label"));
     QList<THelpRequest> requests;
     SetHelpViewer([&](const THelpRequest &r) { requests << r; return true; });
     for (const auto &[name, context] : {std::pair{"label", 13}, std::pair{"timer", 49}}) {
