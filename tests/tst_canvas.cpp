@@ -153,6 +153,16 @@ void tst_Canvas::brushBitmapTilesFromOrigin()
     QCOMPARE(s.at(9, 9), clWhite);
     QCOMPARE(s.at(17, 23), clWhite);
     QCOMPARE(s.count(clWhite), 12 * 12);
+    // A pattern of odd size, filled from inside: still anchored at the origin.
+    QImage odd(3, 2, QImage::Format_RGB32);
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 3; ++x)
+            odd.setPixel(x, y, qRgb(x * 100, y * 100, 7));
+    s.canvas.Brush.SetBitmap(odd);
+    s.canvas.FillRect(Rect(4, 5, 20, 9));
+    for (const QPoint p : {QPoint(4, 5), QPoint(5, 5), QPoint(19, 8), QPoint(12, 6)})
+        QCOMPARE(s.image.pixel(p), qRgb(p.x() % 3 * 100, p.y() % 2 * 100, 7));
+    QCOMPARE(s.at(3, 5), clWhite);   // outside: the steel stays
     s.canvas.Brush.SetBitmap(QImage());
     s.canvas.FillRect(Rect(0, 0, 2, 2));
     QCOMPARE(s.at(1, 1), clBlue);

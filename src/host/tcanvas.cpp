@@ -246,6 +246,16 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
                 std::fill(row + x0, row + x1 + 1, 0xFF000000u | source.color);
                 return;
             }
+            if (rop == 0xF0 && source.bitmap && source.bitmap->depth() == 32) {   // a pattern copied
+                const int bw = source.bitmap->width(), bh = source.bitmap->height();
+                const auto *pattern = reinterpret_cast<const QRgb *>(source.bitmap->constScanLine(((s.y % bh) + bh) % bh));
+                for (int x = x0, px = ((x0 % bw) + bw) % bw; x <= x1; ++x) {
+                    row[x] = 0xFF000000u | (pattern[px] & kRgbMask);
+                    if (++px == bw)
+                        px = 0;
+                }
+                return;
+            }
             for (int x = x0; x <= x1; ++x) {
                 quint32 p = 0;
                 if (!source.at(x, s.y, p) && gaps)
