@@ -568,6 +568,19 @@ void TCanvas::PatBlt(int x, int y, int width, int height, TCopyMode rop)
     }
     if (l == r || t == b)
         return;
+    if (quint8(rop >> 16) == 0xF0 && FImage && FClip.isEmpty() && Brush.Style() == bsSolid && Brush.Bitmap().isNull()) {
+        // One colour over a rectangle: straight into the rows.
+        const QRect area = QRect(l, t, r - l, b - t) & FImage->rect();
+        if (area.isEmpty())
+            return;
+        const QRgb colour = 0xFF000000u | Source::solid(Brush.Color()).color;
+        uchar *const bits = FImage->bits();
+        for (int row = area.top(); row <= area.bottom(); ++row) {
+            auto *line = reinterpret_cast<QRgb *>(bits + row * FImage->bytesPerLine());
+            std::fill(line + area.left(), line + area.right() + 1, colour);
+        }
+        return;
+    }
     FillSpans(Raster::RectSpans(l, t, r - 1, b - 1), Brush, rop);
 }
 
