@@ -121,9 +121,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
     }
     auto *pictures = new QWidget(box);
     auto *pictureLine = sideBySide(pictures);
-    auto *animation = new TqAnimated(pictures);
-    animation->SetBounds(0, 0, 40, 40);
-    animation->setFixedSize(40, 40);
+    auto *animation = sized(new TqAnimated(pictures), 40, 40);
     animation->SetBitmap(QPixmap::fromImage(strip));
     animation->SetTransparent(true);
     animation->SetInterval(120);
@@ -184,9 +182,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
     // picture while held down.
     auto *pressing = new QWidget(box);
     auto *pressLine = sideBySide(pressing);
-    auto *lamp = new TqBitColBtn(pressing);
-    lamp->SetBounds(0, 0, 100, 32);
-    lamp->setFixedSize(100, 32);
+    auto *lamp = sized(new TqBitColBtn(pressing), 100, 32);
     lamp->SetGlyph(QPixmap::fromImage(small));
     TBitmap lit;
     lit.Assign(small);
@@ -202,9 +198,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
     // Pictures by resource name, and the desktop behind the window.
     auto *named = new QWidget(box);
     auto *namedLine = sideBySide(named);
-    auto *resource = new TqResBitmap(named);
-    resource->SetBounds(0, 0, 48, 48);
-    resource->setFixedSize(48, 48);
+    auto *resource = sized(new TqResBitmap(named), 48, 48);
     resource->SetResName(QStringLiteral("gauges/dial.png"));
     namedLine->addWidget(resource);
     auto *missing = new TqResBitmap(named);
@@ -216,9 +210,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
     missing->SetResName(QStringLiteral("gauges/missing.png"));
     namedLine->addWidget(missing);
     namedLine->addWidget(word);
-    auto *desktop = new TqDesktop(named);
-    desktop->SetBounds(0, 0, 120, 48);
-    desktop->setFixedSize(120, 48);
+    auto *desktop = sized(new TqDesktop(named), 120, 48);
     desktop->SetColor(0x00806040);
     auto *seen = new QLabel(named);
     QObject::connect(desktop, &TqDesktop::OnPaint, seen, [seen, desktop](QObject *) {

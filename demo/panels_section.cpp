@@ -44,6 +44,17 @@ Blend *blend(QWidget *parent, gradType type, TColor from, TColor to, int w = 90,
     return b;
 }
 
+// Each side of a splitter filled by its control, also as the bar moves.
+void fillParts(TqVerSplit *split, QWidget *leftTop, QWidget *rightBottom)
+{
+    const auto fill = [split, leftTop, rightBottom] {
+        split->SetLeftTop(leftTop);
+        split->SetRightBottom(rightBottom);
+    };
+    fill();
+    QObject::connect(split, &TqVerSplit::OnSplitChange, split, fill);
+}
+
 } // namespace
 
 QGroupBox *panelsSection(QWidget *parent)
@@ -87,50 +98,35 @@ QGroupBox *panelsSection(QWidget *parent)
     // Splitters between panels full of controls.
     auto *splits = new QWidget(box);
     auto *splitLine = sideBySide(splits);
-    auto *split = new TqVerSplit(splits);
-    split->SetBounds(0, 0, 420, 90);
-    split->setFixedSize(420, 90);
+    auto *split = sized(new TqVerSplit(splits), 420, 90);
     split->SetNewLook(true);
     split->SetWhereSplit(200);
     auto *left = new TqBlendPaint(split);
     left->SetColor(0x00202020);
     left->SetEndColor(0x00505050);
-    split->SetLeftTop(left);
     auto *clock = new TqSegmentClock(left);
     clock->move(8, 8);
     auto *right = new TqBlendPaint(split);
     right->SetSteel(true);
-    split->SetRightBottom(right);
     for (int i = 0; i < 4; ++i) {
         auto *led = new TqLed(right);
         led->move(10 + 30 * i, 10);
         led->WriteLedColor(TqLed::LedColorType(i + 1));
         led->writeLedOn(true);
     }
-    // Each side fills its part as the bar moves.
-    QObject::connect(split, &TqVerSplit::OnSplitChange, split, [split, left, right](QObject *) {
-        split->SetLeftTop(left);
-        split->SetRightBottom(right);
-    });
+    fillParts(split, left, right);
     splitLine->addWidget(split);
-    auto *upright = new TqHorSplit(splits);
-    upright->SetBounds(0, 0, 200, 90);
-    upright->setFixedSize(200, 90);
+    auto *upright = sized(new TqHorSplit(splits), 200, 90);
     upright->SetWhereSplit(40);
     auto *top = new TqBlendPaint(upright);
     top->SetGrad(gHorz);
     top->SetColor(0x00400000);
     top->SetEndColor(0x00C08040);
-    upright->SetLeftTop(top);
     auto *bottom = new TqBlendPaint(upright);
     bottom->SetSteel(true);
-    upright->SetRightBottom(bottom);
     auto *caption = new QLabel(QStringLiteral("drag the bar up or down"), bottom);
     caption->move(8, 8);
-    QObject::connect(upright, &TqHorSplit::OnSplitChange, upright, [upright, top, bottom](QObject *) {
-        upright->SetLeftTop(top);
-        upright->SetRightBottom(bottom);
-    });
+    fillParts(upright, top, bottom);
     splitLine->addWidget(upright);
     splitLine->addStretch();
     row(QStringLiteral("TqVerSplit and TqHorSplit: drag the bars"), splits);

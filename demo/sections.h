@@ -14,6 +14,15 @@ inline QHBoxLayout *sideBySide(QWidget *holder)
     return line;
 }
 
+// `control` made `w` x `h` for good, in its own terms and in the layout's.
+template <class Control>
+Control *sized(Control *control, int w, int h)
+{
+    control->SetBounds(0, 0, w, h);
+    control->setFixedSize(w, h);
+    return control;
+}
+
 // The rows of a section: a caption on the left, what it shows on the right.
 class SectionRows
 {
