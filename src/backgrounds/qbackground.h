@@ -9,9 +9,10 @@
 // The wallpaper is kept as a picture of the client area's size, made again
 // only when the size or a property changes; OnPaint draws over it on each
 // paint. A wallpaper that covers a whole window stands in for the
-// window's own background, which is then not painted under it. A ring blend of no ring at all (Bands 0, or a client area less
-// than 2 pixels wide or high) divides by zero: the error goes to the
-// application object, and the form paints its own background.
+// window's own background, which is then not painted under it. A ring
+// blend of no ring at all (Bands 0, or a client area less than 2 pixels
+// wide or high) divides by zero: the error goes to the application
+// object, and the form paints its own background.
 
 #include "host/tblend.h"
 #include "host/tcomponent.h"

@@ -246,7 +246,9 @@ void TCanvas::plot(const Spans &spans, const Source &source, quint8 rop)
                 std::fill(row + x0, row + x1 + 1, 0xFF000000u | source.color);
                 return;
             }
-            if (rop == 0xF0 && source.bitmap && source.bitmap->depth() == 32) {   // a pattern copied
+            if (rop == 0xF0 && source.bitmap
+                && (source.bitmap->format() == QImage::Format_RGB32 || source.bitmap->format() == QImage::Format_ARGB32)) {
+                // A pattern copied: its pixels as they are stored.
                 const int bw = source.bitmap->width(), bh = source.bitmap->height();
                 const auto *pattern = reinterpret_cast<const QRgb *>(source.bitmap->constScanLine(((s.y % bh) + bh) % bh));
                 for (int x = x0, px = ((x0 % bw) + bw) % bw; x <= x1; ++x) {
