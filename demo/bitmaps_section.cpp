@@ -152,29 +152,29 @@ QGroupBox *bitmapsSection(QWidget *parent)
         b->SetGlyph(QPixmap::fromImage(small));
         b->SetLayout(layout);
         b->SetCaption(layout == blGlyphTop ? QString() : QStringLiteral("Meter"));
-        b->SetColor(0x00E0F0F0);
+        lightFace(b, 0x00E0F0F0);
         place(b, layout == blGlyphTop ? 40 : 90);
     }
     auto *off = new TqBitColBtn(buttons);
     off->SetGlyph(QPixmap::fromImage(small));
     off->SetCaption(QStringLiteral("Off"));
-    off->SetColor(0x00E0F0F0);
+    lightFace(off, 0x00E0F0F0);
     off->setEnabled(false);
     place(off, 80);
     auto *nw = new TqNWBitColBtn(buttons);
     nw->SetGlyph(QPixmap::fromImage(small));
     nw->SetCaption(QStringLiteral("Graphic"));
-    nw->SetColor(0x00F0E0E0);
+    lightFace(nw, 0x00F0E0E0);
     place(nw, 100);
     auto *icon = new TqIconColBtn(buttons);
     icon->SetIcon(QApplication::style()->standardIcon(QStyle::SP_MediaPlay));
     icon->SetCaption(QStringLiteral("Play"));
-    icon->SetColor(0x00E0FFE0);
+    lightFace(icon, 0x00E0FFE0);
     place(icon, 80);
     auto *nwIcon = new TqNWIconColBtn(buttons);
     nwIcon->SetIcon(QApplication::style()->standardIcon(QStyle::SP_MediaStop));
     nwIcon->SetCaption(QStringLiteral("Stop"));
-    nwIcon->SetColor(0x00E0E0FF);
+    lightFace(nwIcon, 0x00E0E0FF);
     place(nwIcon, 80);
     row(QStringLiteral("TqBitColBtn (left, right, top, disabled), TqNWBitColBtn, TqIconColBtn, TqNWIconColBtn"), buttons);
 
@@ -189,7 +189,7 @@ QGroupBox *bitmapsSection(QWidget *parent)
     LightenBMP(lit, 60);
     lamp->SetGlyphDown(QPixmap::fromImage(lit.Image()));
     lamp->SetCaption(QStringLiteral("Hold me"));
-    lamp->SetColor(0x00D0E8F8);
+    lightFace(lamp, 0x00D0E8F8);
     pressLine->addWidget(lamp);
     pressLine->addWidget(heldDown(lamp, pressing));
     pressLine->addStretch();

@@ -46,7 +46,10 @@ QGroupBox *buttonsSection(QWidget *parent)
     const TColor faces[] = {clWindow, clYellow, clAqua, 0x80C0FF};
     for (int i = 0; i < 4; ++i) {
         auto *b = new TqColorBtn(colours);
-        b->SetColor(faces[i]);
+        if (i == 0)
+            b->SetColor(faces[i]);   // the window's colour: the palette's text suits it
+        else
+            lightFace(b, faces[i]);
         b->SetFlat(i == 3);
         b->SetCaption(i == 3 ? QStringLiteral("&Flat") : QStringLiteral("Button &%1").arg(i + 1));
         b->SetDefault(i == 0);
@@ -75,7 +78,7 @@ QGroupBox *buttonsSection(QWidget *parent)
             b->SetBounds(0, 0, 110, 40);
             b->SetHorzAlign(verticals[v]);
             b->SetAlign(horizontals[h]);
-            b->SetColor(0xE0F0E0);
+            lightFace(b, 0xE0F0E0);
             b->SetCaption(QStringLiteral("%1 %2").arg(QLatin1String(vertical[v]), QLatin1String(horizontal[h])));
             QObject::connect(b, &TControl::OnClick, counter, pressed);
             placeGrid->addWidget(b, v, h);

@@ -52,7 +52,7 @@ QGroupBox *controlsSection(QWidget *parent)
     auto *dblOut2 = new TqGauge(knobs);
     dblOut2->SetBounds(0, 0, 90, 20);
     dblOut2->SetCaption(QStringLiteral("%d%%"));
-    dblOut2->SetBarColor(clNavy);
+    dblOut2->SetBarColor(0x00E06000);   // its caption clear in either palette
     QObject::connect(dbl, &TqKnob::OnChange, dblOut, [=] {
         dblOut->SetValue(dbl->Value());
         dblOut2->SetValue(dbl->Value2());

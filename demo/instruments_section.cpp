@@ -71,7 +71,7 @@ QGroupBox *instrumentsSection(QWidget *parent)
         g->SetBounds(0, 0, 140, 24);
         g->SetCaptionStyle(gaCaptionStyle(s));
         g->SetCaption(QString::fromLatin1(formats[s]));
-        g->SetBarColor(s % 2 ? clNavy : clGreen);
+        g->SetBarColor(s % 2 ? TColor(0x00E06000) : TColor(0x0000B000));   // captions clear in either palette
         g->SetValue(20 + 20 * s);
         gaugeLayout->addWidget(g, s / 2, s % 2);
     }
@@ -88,7 +88,7 @@ QGroupBox *instrumentsSection(QWidget *parent)
     glyph->SetBounds(0, 0, 140, 24);
     glyph->SetGlyph(stripes());
     glyph->SetCaption(QStringLiteral("glyph %d%%"));
-    glyph->SetBarColor(clWhite);
+    glyph->SetBarColor(0x0000A0FF);   // the caption's colour: clear on the stripes and either palette
     glyph->SetValue(55);
     gaugeLayout->addWidget(glyph, 2, 1);
     add(QStringLiteral("TqGauge: caption styles, blocks, glyph"), gauges);
@@ -98,10 +98,12 @@ QGroupBox *instrumentsSection(QWidget *parent)
     auto *meterLayout = sideBySide(meters);
     auto *standard = new TqPanelMeter(meters);
     standard->SetCaption(QStringLiteral("mA"));
+    standard->SetFontColor(clBlack);   // on the white face in any palette
     standard->SetValue(40);
     meterLayout->addWidget(standard);
     auto *alert = new TqPanelMeter(meters);
     alert->SetCaption(QStringLiteral("ALERT"));
+    alert->SetFontColor(clBlack);
     alert->SetSteelLook(true);
     alert->SetScaleWidth(3);
     alert->SetValue(88);
@@ -110,6 +112,7 @@ QGroupBox *instrumentsSection(QWidget *parent)
     horizontal->SetPanelType(TqPanelMeter::qpEdgeHorz);
     horizontal->SetBounds(0, 0, 150, 60);
     horizontal->SetCaption(QStringLiteral("V"));
+    horizontal->SetFontColor(clBlack);
     horizontal->SetValue(60);
     meterLayout->addWidget(horizontal);
     auto *vertical = new TqPanelMeter(meters);

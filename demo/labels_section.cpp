@@ -33,14 +33,14 @@ QWidget *angleLabels(QWidget *parent)
         label->SetRotateAbout(TqAngleLabel::raLeft);
         // Leading blanks keep the figures off the centre.
         label->SetCaption(QStringLiteral("%1\u00b0").arg(angle).rightJustified(12, QLatin1Char(' ')));
-        label->SetFontColor(angle == 90 ? clMaroon : clNavy);
+        label->SetFontColor(angle == 90 ? TColor(0x000040D0) : TColor(0x00E07000));   // clear in either palette
         label->SetAngle(angle);
         // The turning point at (90, 110) for every caption.
         label->move(QPoint(110, 115) - label->Pivot());
     }
     auto *turning = new TqAngleLabel(fan);
     turning->SetFont(boldFont(turning->Font(), 11));
-    turning->SetFontColor(clGreen);
+    turning->SetFontColor(0x0000A000);
     turning->SetCaption(QStringLiteral("turning"));
     turning->move(QPoint(240, 65) - turning->Pivot());
     auto *turn = new QTimer(fan);
@@ -89,6 +89,7 @@ QGroupBox *labelsSection(QWidget *parent)
     lowered->move(340, 8);
     auto *link = new TqMouseSpot(labels);
     link->SetCaption(QStringLiteral("point at me, click me"));
+    link->SetFontColor(0x00FF8000);   // a link's blue, clear in either palette
     link->move(490, 14);
     QObject::connect(link, &TControl::OnClick, link, [link](QObject *) { link->SetCaption(QStringLiteral("clicked")); });
     row(QStringLiteral("TqBigLabel, Tq3DLabel raised and lowered, TqMouseSpot"), labels);
@@ -100,6 +101,7 @@ QGroupBox *labelsSection(QWidget *parent)
     auto *hint = new TqHint(parent);
     hint->SetShape(TqHint::hsBalloon);
     hint->SetColor(0x00E0FFFF);
+    hint->SetFontColor(clBlack);
     hint->SetFrameColor(clNavy);
     hint->SetPause(400);
     hint->QueueLoaded();

@@ -125,6 +125,7 @@ QGroupBox *panelsSection(QWidget *parent)
     auto *bottom = new TqBlendPaint(upright);
     bottom->SetSteel(true);
     auto *caption = new QLabel(QStringLiteral("drag the bar up or down"), bottom);
+    caption->setStyleSheet(QStringLiteral("color: black"));   // on the light steel in any palette
     caption->move(8, 8);
     fillParts(upright, top, bottom);
     splitLine->addWidget(upright);

@@ -1,6 +1,8 @@
 #pragma once
 // Each subsystem shows its components in a section of the gallery.
 
+#include "host/tcolor.h"
+
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -21,6 +23,16 @@ Control *sized(Control *control, int w, int h)
     control->SetBounds(0, 0, w, h);
     control->setFixedSize(w, h);
     return control;
+}
+
+// A button with a light face of its own keeps a dark caption in any
+// palette (its font colour otherwise follows the palette's text).
+template <class Button>
+Button *lightFace(Button *button, TColor face)
+{
+    button->SetColor(face);
+    button->SetFontColor(clBlack);
+    return button;
 }
 
 // The rows of a section: a caption on the left, what it shows on the right.
