@@ -40,6 +40,16 @@ struct ShownOnForm
     }
 };
 
+// `base` at a size in pixels, drawn without smoothing, so that text pixels
+// are the text colour or untouched.
+inline QFont crisp(const QFont &base, int pixels)
+{
+    QFont f = base;
+    f.setPixelSize(pixels);
+    f.setStyleStrategy(QFont::NoAntialias);
+    return f;
+}
+
 // A mouse move with the left button held, as a drag delivers it.
 inline void dragTo(QWidget *w, QPoint p)
 {

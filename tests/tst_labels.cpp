@@ -27,14 +27,6 @@ QPair<QRgb, QRgb> firstAndLast(const QImage &image, QRgb ground)
     return {first, last};
 }
 
-QFont crisp(const QFont &base, int pixels)
-{
-    QFont f = base;
-    f.setPixelSize(pixels);
-    f.setStyleStrategy(QFont::NoAntialias);
-    return f;
-}
-
 int count(const QImage &image, QRgb colour)
 {
     int n = 0;
@@ -75,10 +67,7 @@ private slots:
 void tst_Labels::raisedAndLowered()
 {
     Tq3DLabel label;
-    QFont big = label.Font();
-    big.setPixelSize(30);
-    big.setStyleStrategy(QFont::NoAntialias);
-    label.SetFont(big);
+    label.SetFont(crisp(label.Font(), 30));
     label.SetCaption(QStringLiteral("I"));
     label.SetDepth(2);
     label.SetHighlightColor(clRed);
@@ -98,10 +87,7 @@ void tst_Labels::linkLightsAndClicks()
 {
     ShownOnForm<TqMouseSpot> shown;
     TqMouseSpot *link = shown.control;
-    QFont plain = link->Font();
-    plain.setPixelSize(16);
-    plain.setStyleStrategy(QFont::NoAntialias);
-    link->SetFont(plain);
+    link->SetFont(crisp(link->Font(), 16));
     link->SetCaption(QStringLiteral("Calibrate"));
     link->move(20, 20);
     QSignalSpy clicks(link, &TControl::OnClick);

@@ -234,10 +234,7 @@ void tst_Layout::columnsAlignOnScreen()
 {
     ShownOnForm<TqTabListbox> shown;
     TqTabListbox *box = shown.control;
-    QFont f = box->font();
-    f.setPixelSize(13);
-    f.setStyleStrategy(QFont::NoAntialias);
-    box->setFont(f);
+    box->setFont(crisp(box->font(), 13));
     box->SetFontColor(clRed);
     box->SetColor(clWhite);
     box->resize(190, 80);
