@@ -601,8 +601,7 @@ void tst_Designer::helpPagesAreBuilt()
     entries.insert(entries.end(), CodeOnlyComponents().begin(), CodeOnlyComponents().end());
     for (const TComponentEntry &e : entries) {
         const bool codeOnly = e.page == kCodeOnlyPage;
-        QFile page(dir + QStringLiteral("/html/") + (codeOnly ? QString::fromLatin1(e.className).toLower() + QStringLiteral(".html")
-                                                               : HelpPage(e.helpContext)));
+        QFile page(dir + QStringLiteral("/html/") + (codeOnly ? HelpPageOf(e) : HelpPage(e.helpContext)));
         QVERIFY2(page.open(QIODevice::ReadOnly), qPrintable(page.fileName()));
         const QString html = QString::fromUtf8(page.readAll());
         const QImage picture(dir + QStringLiteral("/html/") + QString::fromLatin1(e.className).toLower() + QStringLiteral(".png"));

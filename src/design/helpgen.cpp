@@ -149,7 +149,7 @@ int main(int argc, char **argv)
     entries.insert(entries.end(), CodeOnlyComponents().begin(), CodeOnlyComponents().end());
     for (const TComponentEntry &e : entries) {
         const QString cls = QString::fromLatin1(e.className);
-        const QString file = cls.toLower() + QStringLiteral(".html");
+        const QString file = HelpPageOf(e);
         if (!writeFile(htmlDir + QLatin1Char('/') + file, componentPage(e, htmlDir)))
             return 1;
         const QString icon = cls.toLower() + QStringLiteral("-icon.png");

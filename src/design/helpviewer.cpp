@@ -74,8 +74,13 @@ QString HelpPage(int context)
 {
     for (const TComponentEntry &e : Components())
         if (e.helpContext == context)
-            return QString::fromLatin1(e.className).toLower() + QStringLiteral(".html");
+            return HelpPageOf(e);
     return QStringLiteral("index.html");
+}
+
+QString HelpPageOf(const TComponentEntry &entry)
+{
+    return QString::fromLatin1(entry.className).toLower() + QStringLiteral(".html");
 }
 
 QString HelpDirectory()

@@ -9,12 +9,15 @@
 #include <functional>
 
 class QWidget;
+struct TComponentEntry;
 
 // The help's namespace in the collection.
 inline constexpr const char *kHelpNamespace = "org.quovarsoft.qcol";
 
 // The page of a context number ("tqsegment.html"); the index for an unknown one.
 QString HelpPage(int context);
+// The page of a component's own help: its class name in lower case.
+QString HelpPageOf(const TComponentEntry &entry);
 
 // The folder that holds qcol.qhc, qcol.qch and html/: $QCOL_HELP_DIR, then
 // the installed help, then the help of the build tree. Empty if none has it.
