@@ -24,308 +24,296 @@ class tst_Bitmaps : public QObject
 {
     Q_OBJECT
 private slots:
-    void rightAnglesAreExact();
-    void anyAngleByNearestPixel();
-    void darkenLightenGrey();
-    void rasterAndTransparentBlit();
-    void framesAndDividers();
-    void pictureInPlace();
-    void animationFramesInOrder();
-    void glyphPlacesForEachLayout();
-    void glyphButtons();
-    void pictureFromResources();
-    void desktopBehindTheForm();
-};
-
-void tst_Bitmaps::rightAnglesAreExact()
-{
-    TBitmap b;
-    numbered(b, 4, 3);
-    BMPRotate(b, 90);   // clockwise: (x, y) goes to (h - 1 - y, x)
-    QCOMPARE(QSize(b.Width(), b.Height()), QSize(3, 4));
-    for (int y = 0; y < 3; ++y)
-        for (int x = 0; x < 4; ++x)
-            QCOMPARE(at(b, 2 - y, x), qRgb(x * 10, y * 10, 200));
-    BMPRotate(b, 90);   // twice is a half turn
-    QCOMPARE(at(b, 0, 0), qRgb(30, 20, 200));
-    BMPRotate(b, -180);   // and back
-    QCOMPARE(at(b, 3, 2), qRgb(30, 20, 200));
-    BMPRotate(b, 270);
-    QCOMPARE(at(b, 0, 3), qRgb(0, 0, 200));   // (0,0) of a 4 x 3 after a left turn
-}
-
-void tst_Bitmaps::anyAngleByNearestPixel()
-{
-    TBitmap b;
-    numbered(b, 10, 10);
-    BMPRotate(b, 45);
-    QCOMPARE(QSize(b.Width(), b.Height()), QSize(15, 15));
-    QCOMPARE(at(b, 7, 7), qRgb(50, 50, 200));          // the centre stays
-    QCOMPARE(at(b, 0, 0), qRgb(0, 90, 200));           // corners: the transparent colour
-    QCOMPARE(at(b, 7, 1), qRgb(0, 0, 200));            // the top-left corner turned to the top
-}
-
-void tst_Bitmaps::darkenLightenGrey()
-{
-    TBitmap b;
-    b.Assign([] {
-        QImage i(2, 1, QImage::Format_RGB32);
-        i.setPixel(0, 0, qRgb(200, 100, 51));
-        i.setPixel(1, 0, qRgb(255, 0, 10));
-        return i;
-    }());
-    DarkenBMP(b, 25);
-    QCOMPARE(at(b, 0, 0), qRgb(150, 75, 38));
-    LightenBMP(b, 50);
-    QCOMPARE(at(b, 0, 0), qRgb(203, 165, 147));
-    QCOMPARE(at(b, 1, 0), qRgb(223, 128, 132));   // (191, 0, 8) after the darkening
-    DarkenBMP(b, 250);   // past 100: black
-    QCOMPARE(at(b, 1, 0), qRgb(0, 0, 0));
-    b.Assign([] {
-        QImage i(1, 1, QImage::Format_RGB32);
-        i.setPixel(0, 0, qRgb(255, 128, 0));
-        return i;
-    }());
-    GreyBMP(b);
-    QCOMPARE(at(b, 0, 0), qRgb(151, 151, 151));   // (299*255 + 587*128) / 1000
-}
-
-void tst_Bitmaps::rasterAndTransparentBlit()
-{
-    TBitmap b;
-    QImage glyph(3, 3, QImage::Format_RGB32);
-    glyph.fill(qRgb(255, 0, 255));   // the key: bottom-left
-    glyph.setPixel(1, 0, qRgb(0, 0, 0));
-    glyph.setPixel(1, 1, qRgb(0, 0, 0));
-    glyph.setPixel(0, 1, qRgb(0, 0, 0));
-    b.Assign(glyph);
-    QCOMPARE(TransparentColorOf(b), TColor(0x00FF00FF));
-    RasterBMP(b, clGray);
-    QCOMPARE(at(b, 1, 0), qRgb(128, 128, 128));   // x + y odd
-    QCOMPARE(at(b, 1, 1), qRgb(0, 0, 0));         // even: kept
-    QCOMPARE(at(b, 2, 1), qRgb(255, 0, 255));     // transparent: kept
-    QImage target(5, 5, QImage::Format_RGB32);
-    target.fill(qRgb(0, 255, 0));
-    TCanvas canvas(&target);
-    TransparentBlt(canvas, 1, 1, b, 0x00FF00FF);
-    QCOMPARE(target.pixel(2, 2), qRgb(0, 0, 0));
-    QCOMPARE(target.pixel(3, 3), qRgb(0, 255, 0));   // the key colour is not painted
-    QCOMPARE(target.pixel(2, 1), qRgb(128, 128, 128));
-}
-
-void tst_Bitmaps::framesAndDividers()
-{
-    const QRgb shadow = ColorToQRgb(clBtnShadow) | 0xFF000000u, light = ColorToQRgb(clBtnHighlight) | 0xFF000000u;
-    const QRgb under = qRgb(1, 2, 3);
-    TqFrame frame;
-    frame.SetBounds(0, 0, 20, 10);
-    QImage box = frame.RenderImage(under);
-    QCOMPARE(box.pixel(0, 0), shadow);
-    QCOMPARE(box.pixel(19, 9), light);
-    QCOMPARE(box.pixel(10, 5), under);   // only lines
-    frame.SetStyle(TqFrame::fsRaised);
-    frame.SetShape(TqFrame::fsBottomLine);
-    QImage bottom = frame.RenderImage(under);
-    QCOMPARE(bottom.pixel(10, 8), light);
-    QCOMPARE(bottom.pixel(10, 9), shadow);
-    QCOMPARE(bottom.pixel(10, 7), under);
-    frame.SetShape(TqFrame::fsFrame);
-    frame.SetStyle(TqFrame::fsLowered);
-    QImage groove = frame.RenderImage(under);
-    QCOMPARE(groove.pixel(0, 5), shadow);
-    QCOMPARE(groove.pixel(1, 5), light);
-    QCOMPARE(groove.pixel(18, 5), shadow);
-    QCOMPARE(groove.pixel(19, 5), light);
-    TqDivider divider;
-    divider.SetBounds(0, 0, 100, 16);
-    QImage line = divider.RenderImage(under);
-    QCOMPARE(divider.LinePosition(), 7);
-    QCOMPARE(line.pixel(50, 7), shadow);
-    QCOMPARE(line.pixel(50, 8), light);
-    divider.SetCaption(QStringLiteral("Input"));
-    QImage captioned = divider.RenderImage(under);
-    QCOMPARE(captioned.pixel(9, 7), divider.palette().color(QPalette::Window).rgb());   // the caption's ground
-    QCOMPARE(captioned.pixel(95, 7), shadow);
-    divider.SetKind(TqDivider::dkVertical);
-    divider.SetBounds(0, 0, 10, 40);
-    QImage upright = divider.RenderImage(under);
-    QCOMPARE(upright.pixel(4, 20), shadow);
-    QCOMPARE(upright.pixel(5, 20), light);
-}
-
-void tst_Bitmaps::pictureInPlace()
-{
-    const QSize control(100, 50), picture(20, 10);
-    QCOMPARE(BitmapPlace(control, picture, false, false, false), QRect(0, 0, 20, 10));
-    QCOMPARE(BitmapPlace(control, picture, false, false, true), QRect(40, 20, 20, 10));
-    QCOMPARE(BitmapPlace(control, picture, true, false, false), QRect(0, 0, 100, 50));
-    QCOMPARE(BitmapPlace(control, QSize(10, 10), true, true, true), QRect(25, 0, 50, 50));
-    QVERIFY(BitmapPlace(control, QSize(), true, false, false).isEmpty());
-    // Transparent: the key colour shows what lies beneath.
-    QImage glyph(4, 4, QImage::Format_RGB32);
-    glyph.fill(qRgb(255, 0, 255));
-    glyph.setPixel(1, 1, qRgb(10, 20, 30));
-    TqBitmap bitmap;
-    bitmap.SetBitmap(QPixmap::fromImage(glyph));
-    bitmap.SetStretch(true);   // 25 x 25 pixels each
-    bitmap.SetTransparent(true);
-    const QImage shown = bitmap.RenderImage(qRgb(0, 128, 0));
-    QCOMPARE(shown.pixel(30, 30), qRgb(10, 20, 30));
-    QCOMPARE(shown.pixel(10, 10), qRgb(0, 128, 0));
-    bitmap.SetAutoSize(true);
-    QCOMPARE(bitmap.size(), QSize(4, 4));
-}
-
-void tst_Bitmaps::animationFramesInOrder()
-{
-    QImage strip(64, 16, QImage::Format_RGB32);
-    for (int f = 0; f < 4; ++f)
-        for (int y = 0; y < 16; ++y)
-            for (int x = 0; x < 16; ++x)
-                strip.setPixel(f * 16 + x, y, qRgb(f * 60, 0, 0));
-    TqAnimated animation;
-    animation.SetBitmap(QPixmap::fromImage(strip));
-    QCOMPARE(animation.FrameCount(), 4);   // square frames from the strip
-    QCOMPARE(animation.FrameImage(2).pixel(5, 5), qRgb(120, 0, 0));
-    QList<int> seen;
-    connect(&animation, &TqAnimated::OnFrame, &animation, [&] { seen << animation.Frame(); });
-    animation.SetInterval(5);
-    animation.SetLoop(false);
-    animation.SetPlay(true);
-    QTRY_VERIFY(!animation.Play());   // it stops on the last frame
-    QCOMPARE(seen, (QList<int>{1, 2, 3}));
-    QCOMPARE(animation.RenderImage().pixel(5, 5), qRgb(180, 0, 0));
-    // Looping, it goes round.
-    seen.clear();
-    animation.SetLoop(true);
-    animation.SetPlay(true);
-    QTRY_VERIFY(seen.size() >= 5);
-    animation.SetPlay(false);
-    QCOMPARE(seen.mid(0, 5), (QList<int>{0, 1, 2, 3, 0}));
-    // Frames given: the strip is cut in two.
-    animation.SetFrames(2);
-    QCOMPARE(animation.FrameImage(1).width(), 32);
-    animation.SetFrame(7);
-    QCOMPARE(animation.Frame(), 1);
-}
-
-void tst_Bitmaps::glyphPlacesForEachLayout()
-{
-    const QRect client(0, 0, 100, 40);
-    const QSize glyph(16, 16), text(40, 14);
-    struct Case
+    void rightAnglesAreExact()
     {
-        TButtonLayout layout;
-        int margin;
-        QRect glyph, caption;
-    } cases[] = {
-        {blGlyphLeft, -1, QRect(20, 12, 16, 16), QRect(40, 0, 40, 40)},
-        {blGlyphRight, -1, QRect(64, 12, 16, 16), QRect(20, 0, 40, 40)},
-        {blGlyphTop, -1, QRect(42, 3, 16, 16), QRect(0, 23, 100, 14)},
-        {blGlyphBottom, -1, QRect(42, 21, 16, 16), QRect(0, 3, 100, 14)},
-        {blGlyphLeft, 5, QRect(5, 12, 16, 16), QRect(25, 0, 40, 40)},
-    };
-    for (const Case &c : cases) {
-        const TGlyphPlaces p = GlyphPlaces(client, glyph, text, c.layout, c.margin, 4);
-        QCOMPARE(p.glyph, c.glyph);
-        QCOMPARE(p.caption, c.caption);
+        TBitmap b;
+        numbered(b, 4, 3);
+        BMPRotate(b, 90);   // clockwise: (x, y) goes to (h - 1 - y, x)
+        QCOMPARE(QSize(b.Width(), b.Height()), QSize(3, 4));
+        for (int y = 0; y < 3; ++y)
+            for (int x = 0; x < 4; ++x)
+                QCOMPARE(at(b, 2 - y, x), qRgb(x * 10, y * 10, 200));
+        BMPRotate(b, 90);   // twice is a half turn
+        QCOMPARE(at(b, 0, 0), qRgb(30, 20, 200));
+        BMPRotate(b, -180);   // and back
+        QCOMPARE(at(b, 3, 2), qRgb(30, 20, 200));
+        BMPRotate(b, 270);
+        QCOMPARE(at(b, 0, 3), qRgb(0, 0, 200));   // (0,0) of a 4 x 3 after a left turn
     }
-    // Without a caption the glyph is centred.
-    QCOMPARE(GlyphPlaces(client, glyph, QSize(), blGlyphLeft, -1, 4).glyph, QRect(42, 12, 16, 16));
-}
 
-void tst_Bitmaps::glyphButtons()
-{
-    QImage glyph(8, 8, QImage::Format_RGB32);
-    glyph.fill(qRgb(255, 0, 255));
-    glyph.setPixel(4, 4, qRgb(255, 0, 0));
-    glyph.setPixel(5, 4, qRgb(255, 0, 0));
-    ShownOnForm<TqBitColBtn> shown;
-    TqBitColBtn *button = shown.control;
-    button->SetBounds(0, 0, 60, 30);
-    button->SetColor(0x00C0FFC0);
-    button->SetGlyph(QPixmap::fromImage(glyph));
-    const QPoint at = button->Places().glyph.topLeft();
-    QCOMPARE(at, QPoint(26, 11));   // no caption: in the middle
-    QImage up = button->RenderImage();
-    QCOMPARE(up.pixel(at + QPoint(4, 4)), qRgb(255, 0, 0));
-    QCOMPARE(up.pixel(at + QPoint(1, 1)), qRgb(192, 255, 192));   // the key shows the face
-    QTest::mousePress(button, Qt::LeftButton, {}, QPoint(30, 15));
-    QCOMPARE(button->RenderImage().pixel(at + QPoint(5, 5)), qRgb(255, 0, 0));   // pressed: it moves
-    QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(30, 15));
-    button->setEnabled(false);
-    QImage off = button->RenderImage();
-    QCOMPARE(off.pixel(at + QPoint(4, 4)), qRgb(76, 76, 76));     // grey (x + y even)
-    QCOMPARE(off.pixel(at + QPoint(5, 4)), qRgb(192, 255, 192));  // the checker (odd)
-    // With a caption, the glyph keeps clear of it also while the caption is
-    // bold (the default button), and the pair stays centred.
-    button->setEnabled(true);
-    button->SetBounds(0, 0, 120, 30);
-    button->SetCaption(QStringLiteral("Measure"));
-    const TGlyphPlaces plain = button->Places();
-    button->SetDefault(true);
-    const TGlyphPlaces bold = button->Places();
-    QVERIFY(bold.caption.width() > plain.caption.width());
-    QVERIFY(bold.glyph.right() + 4 < bold.caption.left());
-    QVERIFY(qAbs(bold.glyph.left() - (119 - bold.caption.right())) <= 1);
-    // An icon keeps its own transparency.
-    QImage icon(16, 16, QImage::Format_ARGB32);
-    icon.fill(Qt::transparent);
-    icon.setPixel(8, 8, qRgba(0, 0, 255, 255));
-    TqIconColBtn iconButton;
-    iconButton.SetBounds(0, 0, 60, 30);
-    iconButton.SetColor(0x00C0FFC0);
-    iconButton.SetIcon(QIcon(QPixmap::fromImage(icon)));
-    const QPoint iat = iconButton.Places().glyph.topLeft();
-    const QImage face = iconButton.RenderImage();
-    QCOMPARE(face.pixel(iat + QPoint(8, 8)), qRgb(0, 0, 255));
-    QCOMPARE(face.pixel(iat + QPoint(2, 2)), qRgb(192, 255, 192));
-}
-
-void tst_Bitmaps::pictureFromResources()
-{
-    TqResBitmap picture;
-    picture.SetResName(QStringLiteral("gauges/needle.png"));
-    QVERIFY(picture.ResourceFound());
-    QCOMPARE(picture.Bitmap().size(), QSize(6, 4));
-    QCOMPARE(picture.RenderImage().pixel(1, 1), qRgb(255, 255, 0));
-    // A missing name: an empty picture and a word, no crash.
-    QStringList missing;
-    connect(&picture, &TqResBitmap::OnResourceMissing, &picture,
-            [&](QObject *, const QString &name) { missing << name; });
-    picture.SetResName(QStringLiteral("gauges/none.png"));
-    QVERIFY(!picture.ResourceFound());
-    QVERIFY(picture.Bitmap().isNull());
-    QCOMPARE(missing, QStringList{"gauges/none.png"});
-    try {
-        picture.LoadFromResourceName(QStringLiteral(":/nowhere.png"));
-        QFAIL("a missing resource raises");
-    } catch (const EResNotFound &e) {
-        QCOMPARE(QByteArray(e.what()), QByteArray("Resource :/nowhere.png not found"));
+    void anyAngleByNearestPixel()
+    {
+        TBitmap b;
+        numbered(b, 10, 10);
+        BMPRotate(b, 45);
+        QCOMPARE(QSize(b.Width(), b.Height()), QSize(15, 15));
+        QCOMPARE(at(b, 7, 7), qRgb(50, 50, 200));          // the centre stays
+        QCOMPARE(at(b, 0, 0), qRgb(0, 90, 200));           // corners: the transparent colour
+        QCOMPARE(at(b, 7, 1), qRgb(0, 0, 200));            // the top-left corner turned to the top
     }
-}
 
-void tst_Bitmaps::desktopBehindTheForm()
-{
-    // Something on the screen first: a red window.
-    QWidget behind;
-    behind.setGeometry(0, 0, 200, 200);
-    behind.setAutoFillBackground(true);
-    QPalette red = behind.palette();
-    red.setColor(QPalette::Window, Qt::red);
-    behind.setPalette(red);
-    behind.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&behind));
-    QWidget form;
-    form.setGeometry(0, 0, 200, 200);
-    auto *desktop = new TqDesktop(&form);
-    desktop->SetBounds(20, 20, 50, 50);
-    form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
-    if (!desktop->Grabbed())
-        QSKIP("this screen gives no picture of itself");
-    QCOMPARE(desktop->RenderImage().pixel(25, 25), qRgb(255, 0, 0));
-}
+    void darkenLightenGrey()
+    {
+        TBitmap b;
+        b.Assign([] {
+            QImage i(2, 1, QImage::Format_RGB32);
+            i.setPixel(0, 0, qRgb(200, 100, 51));
+            i.setPixel(1, 0, qRgb(255, 0, 10));
+            return i;
+        }());
+        DarkenBMP(b, 25);
+        QCOMPARE(at(b, 0, 0), qRgb(150, 75, 38));
+        LightenBMP(b, 50);
+        QCOMPARE(at(b, 0, 0), qRgb(203, 165, 147));
+        QCOMPARE(at(b, 1, 0), qRgb(223, 128, 132));   // (191, 0, 8) after the darkening
+        DarkenBMP(b, 250);   // past 100: black
+        QCOMPARE(at(b, 1, 0), qRgb(0, 0, 0));
+        b.Assign([] {
+            QImage i(1, 1, QImage::Format_RGB32);
+            i.setPixel(0, 0, qRgb(255, 128, 0));
+            return i;
+        }());
+        GreyBMP(b);
+        QCOMPARE(at(b, 0, 0), qRgb(151, 151, 151));   // (299*255 + 587*128) / 1000
+    }
+
+    void rasterAndTransparentBlit()
+    {
+        TBitmap b;
+        QImage glyph(3, 3, QImage::Format_RGB32);
+        glyph.fill(qRgb(255, 0, 255));   // the key: bottom-left
+        glyph.setPixel(1, 0, qRgb(0, 0, 0));
+        glyph.setPixel(1, 1, qRgb(0, 0, 0));
+        glyph.setPixel(0, 1, qRgb(0, 0, 0));
+        b.Assign(glyph);
+        QCOMPARE(TransparentColorOf(b), TColor(0x00FF00FF));
+        RasterBMP(b, clGray);
+        QCOMPARE(at(b, 1, 0), qRgb(128, 128, 128));   // x + y odd
+        QCOMPARE(at(b, 1, 1), qRgb(0, 0, 0));         // even: kept
+        QCOMPARE(at(b, 2, 1), qRgb(255, 0, 255));     // transparent: kept
+        QImage target(5, 5, QImage::Format_RGB32);
+        target.fill(qRgb(0, 255, 0));
+        TCanvas canvas(&target);
+        TransparentBlt(canvas, 1, 1, b, 0x00FF00FF);
+        QCOMPARE(target.pixel(2, 2), qRgb(0, 0, 0));
+        QCOMPARE(target.pixel(3, 3), qRgb(0, 255, 0));   // the key colour is not painted
+        QCOMPARE(target.pixel(2, 1), qRgb(128, 128, 128));
+    }
+
+    void framesAndDividers()
+    {
+        const QRgb shadow = ColorToQRgb(clBtnShadow) | 0xFF000000u, light = ColorToQRgb(clBtnHighlight) | 0xFF000000u;
+        const QRgb under = qRgb(1, 2, 3);
+        TqFrame frame;
+        frame.SetBounds(0, 0, 20, 10);
+        QImage box = frame.RenderImage(under);
+        QCOMPARE(box.pixel(0, 0), shadow);
+        QCOMPARE(box.pixel(19, 9), light);
+        QCOMPARE(box.pixel(10, 5), under);   // only lines
+        frame.SetStyle(TqFrame::fsRaised);
+        frame.SetShape(TqFrame::fsBottomLine);
+        QImage bottom = frame.RenderImage(under);
+        QCOMPARE(bottom.pixel(10, 8), light);
+        QCOMPARE(bottom.pixel(10, 9), shadow);
+        QCOMPARE(bottom.pixel(10, 7), under);
+        frame.SetShape(TqFrame::fsFrame);
+        frame.SetStyle(TqFrame::fsLowered);
+        QImage groove = frame.RenderImage(under);
+        QCOMPARE(groove.pixel(0, 5), shadow);
+        QCOMPARE(groove.pixel(1, 5), light);
+        QCOMPARE(groove.pixel(18, 5), shadow);
+        QCOMPARE(groove.pixel(19, 5), light);
+        TqDivider divider;
+        divider.SetBounds(0, 0, 100, 16);
+        QImage line = divider.RenderImage(under);
+        QCOMPARE(divider.LinePosition(), 7);
+        QCOMPARE(line.pixel(50, 7), shadow);
+        QCOMPARE(line.pixel(50, 8), light);
+        divider.SetCaption(QStringLiteral("Input"));
+        QImage captioned = divider.RenderImage(under);
+        QCOMPARE(captioned.pixel(9, 7), divider.palette().color(QPalette::Window).rgb());   // the caption's ground
+        QCOMPARE(captioned.pixel(95, 7), shadow);
+        divider.SetKind(TqDivider::dkVertical);
+        divider.SetBounds(0, 0, 10, 40);
+        QImage upright = divider.RenderImage(under);
+        QCOMPARE(upright.pixel(4, 20), shadow);
+        QCOMPARE(upright.pixel(5, 20), light);
+    }
+
+    void pictureInPlace()
+    {
+        const QSize control(100, 50), picture(20, 10);
+        QCOMPARE(BitmapPlace(control, picture, false, false, false), QRect(0, 0, 20, 10));
+        QCOMPARE(BitmapPlace(control, picture, false, false, true), QRect(40, 20, 20, 10));
+        QCOMPARE(BitmapPlace(control, picture, true, false, false), QRect(0, 0, 100, 50));
+        QCOMPARE(BitmapPlace(control, QSize(10, 10), true, true, true), QRect(25, 0, 50, 50));
+        QVERIFY(BitmapPlace(control, QSize(), true, false, false).isEmpty());
+        // Transparent: the key colour shows what lies beneath.
+        QImage glyph(4, 4, QImage::Format_RGB32);
+        glyph.fill(qRgb(255, 0, 255));
+        glyph.setPixel(1, 1, qRgb(10, 20, 30));
+        TqBitmap bitmap;
+        bitmap.SetBitmap(QPixmap::fromImage(glyph));
+        bitmap.SetStretch(true);   // 25 x 25 pixels each
+        bitmap.SetTransparent(true);
+        const QImage shown = bitmap.RenderImage(qRgb(0, 128, 0));
+        QCOMPARE(shown.pixel(30, 30), qRgb(10, 20, 30));
+        QCOMPARE(shown.pixel(10, 10), qRgb(0, 128, 0));
+        bitmap.SetAutoSize(true);
+        QCOMPARE(bitmap.size(), QSize(4, 4));
+    }
+
+    void animationFramesInOrder()
+    {
+        QImage strip(64, 16, QImage::Format_RGB32);
+        for (int f = 0; f < 4; ++f)
+            for (int y = 0; y < 16; ++y)
+                for (int x = 0; x < 16; ++x)
+                    strip.setPixel(f * 16 + x, y, qRgb(f * 60, 0, 0));
+        TqAnimated animation;
+        animation.SetBitmap(QPixmap::fromImage(strip));
+        QCOMPARE(animation.FrameCount(), 4);   // square frames from the strip
+        QCOMPARE(animation.FrameImage(2).pixel(5, 5), qRgb(120, 0, 0));
+        QList<int> seen;
+        connect(&animation, &TqAnimated::OnFrame, &animation, [&] { seen << animation.Frame(); });
+        animation.SetInterval(5);
+        animation.SetLoop(false);
+        animation.SetPlay(true);
+        QTRY_VERIFY(!animation.Play());   // it stops on the last frame
+        QCOMPARE(seen, (QList<int>{1, 2, 3}));
+        QCOMPARE(animation.RenderImage().pixel(5, 5), qRgb(180, 0, 0));
+        // Looping, it goes round.
+        seen.clear();
+        animation.SetLoop(true);
+        animation.SetPlay(true);
+        QTRY_VERIFY(seen.size() >= 5);
+        animation.SetPlay(false);
+        QCOMPARE(seen.mid(0, 5), (QList<int>{0, 1, 2, 3, 0}));
+        // Frames given: the strip is cut in two.
+        animation.SetFrames(2);
+        QCOMPARE(animation.FrameImage(1).width(), 32);
+        animation.SetFrame(7);
+        QCOMPARE(animation.Frame(), 1);
+    }
+
+    void glyphPlacesForEachLayout()
+    {
+        const QRect client(0, 0, 100, 40);
+        const QSize glyph(16, 16), text(40, 14);
+        struct Case
+        {
+            TButtonLayout layout;
+            int margin;
+            QRect glyph, caption;
+        } cases[] = {
+            {blGlyphLeft, -1, QRect(20, 12, 16, 16), QRect(40, 0, 40, 40)},
+            {blGlyphRight, -1, QRect(64, 12, 16, 16), QRect(20, 0, 40, 40)},
+            {blGlyphTop, -1, QRect(42, 3, 16, 16), QRect(0, 23, 100, 14)},
+            {blGlyphBottom, -1, QRect(42, 21, 16, 16), QRect(0, 3, 100, 14)},
+            {blGlyphLeft, 5, QRect(5, 12, 16, 16), QRect(25, 0, 40, 40)},
+        };
+        for (const Case &c : cases) {
+            const TGlyphPlaces p = GlyphPlaces(client, glyph, text, c.layout, c.margin, 4);
+            QCOMPARE(p.glyph, c.glyph);
+            QCOMPARE(p.caption, c.caption);
+        }
+        // Without a caption the glyph is centred.
+        QCOMPARE(GlyphPlaces(client, glyph, QSize(), blGlyphLeft, -1, 4).glyph, QRect(42, 12, 16, 16));
+    }
+
+    void glyphButtons()
+    {
+        QImage glyph(8, 8, QImage::Format_RGB32);
+        glyph.fill(qRgb(255, 0, 255));
+        glyph.setPixel(4, 4, qRgb(255, 0, 0));
+        glyph.setPixel(5, 4, qRgb(255, 0, 0));
+        ShownOnForm<TqBitColBtn> shown;
+        TqBitColBtn *button = shown.control;
+        button->SetBounds(0, 0, 60, 30);
+        button->SetColor(0x00C0FFC0);
+        button->SetGlyph(QPixmap::fromImage(glyph));
+        const QPoint at = button->Places().glyph.topLeft();
+        QCOMPARE(at, QPoint(26, 11));   // no caption: in the middle
+        QImage up = button->RenderImage();
+        QCOMPARE(up.pixel(at + QPoint(4, 4)), qRgb(255, 0, 0));
+        QCOMPARE(up.pixel(at + QPoint(1, 1)), qRgb(192, 255, 192));   // the key shows the face
+        QTest::mousePress(button, Qt::LeftButton, {}, QPoint(30, 15));
+        QCOMPARE(button->RenderImage().pixel(at + QPoint(5, 5)), qRgb(255, 0, 0));   // pressed: it moves
+        QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(30, 15));
+        button->setEnabled(false);
+        QImage off = button->RenderImage();
+        QCOMPARE(off.pixel(at + QPoint(4, 4)), qRgb(76, 76, 76));     // grey (x + y even)
+        QCOMPARE(off.pixel(at + QPoint(5, 4)), qRgb(192, 255, 192));  // the checker (odd)
+        // With a caption, the glyph keeps clear of it also while the caption is
+        // bold (the default button), and the pair stays centred.
+        button->setEnabled(true);
+        button->SetBounds(0, 0, 120, 30);
+        button->SetCaption(QStringLiteral("Measure"));
+        const TGlyphPlaces plain = button->Places();
+        button->SetDefault(true);
+        const TGlyphPlaces bold = button->Places();
+        QVERIFY(bold.caption.width() > plain.caption.width());
+        QVERIFY(bold.glyph.right() + 4 < bold.caption.left());
+        QVERIFY(qAbs(bold.glyph.left() - (119 - bold.caption.right())) <= 1);
+        // An icon keeps its own transparency.
+        QImage icon(16, 16, QImage::Format_ARGB32);
+        icon.fill(Qt::transparent);
+        icon.setPixel(8, 8, qRgba(0, 0, 255, 255));
+        TqIconColBtn iconButton;
+        iconButton.SetBounds(0, 0, 60, 30);
+        iconButton.SetColor(0x00C0FFC0);
+        iconButton.SetIcon(QIcon(QPixmap::fromImage(icon)));
+        const QPoint iat = iconButton.Places().glyph.topLeft();
+        const QImage face = iconButton.RenderImage();
+        QCOMPARE(face.pixel(iat + QPoint(8, 8)), qRgb(0, 0, 255));
+        QCOMPARE(face.pixel(iat + QPoint(2, 2)), qRgb(192, 255, 192));
+    }
+
+    void pictureFromResources()
+    {
+        TqResBitmap picture;
+        picture.SetResName(QStringLiteral("gauges/needle.png"));
+        QVERIFY(picture.ResourceFound());
+        QCOMPARE(picture.Bitmap().size(), QSize(6, 4));
+        QCOMPARE(picture.RenderImage().pixel(1, 1), qRgb(255, 255, 0));
+        // A missing name: an empty picture and a word, no crash.
+        QStringList missing;
+        connect(&picture, &TqResBitmap::OnResourceMissing, &picture,
+                [&](QObject *, const QString &name) { missing << name; });
+        picture.SetResName(QStringLiteral("gauges/none.png"));
+        QVERIFY(!picture.ResourceFound());
+        QVERIFY(picture.Bitmap().isNull());
+        QCOMPARE(missing, QStringList{"gauges/none.png"});
+        try {
+            picture.LoadFromResourceName(QStringLiteral(":/nowhere.png"));
+            QFAIL("a missing resource raises");
+        } catch (const EResNotFound &e) {
+            QCOMPARE(QByteArray(e.what()), QByteArray("Resource :/nowhere.png not found"));
+        }
+    }
+
+    void desktopBehindTheForm()
+    {
+        // Something on the screen first: a red window.
+        QWidget behind;
+        behind.setGeometry(0, 0, 200, 200);
+        behind.setAutoFillBackground(true);
+        QPalette red = behind.palette();
+        red.setColor(QPalette::Window, Qt::red);
+        behind.setPalette(red);
+        behind.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&behind));
+        QWidget form;
+        form.setGeometry(0, 0, 200, 200);
+        auto *desktop = new TqDesktop(&form);
+        desktop->SetBounds(20, 20, 50, 50);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        if (!desktop->Grabbed())
+            QSKIP("this screen gives no picture of itself");
+        QCOMPARE(desktop->RenderImage().pixel(25, 25), qRgb(255, 0, 0));
+    }
+};
 
 QTEST_MAIN(tst_Bitmaps)
 #include "tst_bitmaps.moc"

@@ -158,6 +158,17 @@ struct DesignerCore
 
 } // namespace
 
+// Stored values a loaded component does not keep: a size guard that takes
+// the window system's limits holds those, and a tray icon's ShowDesigning
+// is for the designer only.
+static bool takenFromTheSystem(QWidget *runtime, const QMetaProperty &p)
+{
+    const QByteArray name(p.name());
+    if (const auto *guard = qobject_cast<TqMinMax *>(runtime))
+        return guard->UseDefaultSize() && (name.startsWith("Max") || name.startsWith("Min"));
+    return qobject_cast<TqTrayIcon *>(runtime) && name == "ShowDesigning";
+}
+
 class tst_Designer : public QObject
 {
     Q_OBJECT
@@ -180,473 +191,447 @@ class tst_Designer : public QObject
 private slots:
     void initTestCase() { d = std::make_unique<DesignerCore>(); }
     void cleanupTestCase() { d.reset(); }
-    void pluginListsTheComponentsInPaletteOrder();
-    void madeInDesignMode();
-    void iconsAreTheComponentsOwnPictures();
-    void formRoundTripThroughDesigner();
-    void colourPropertiesAreColoursAndKeepSystemColours();
-    void systemColoursAreChosenInTheColoursDialog();
-    void bitmapFromTheBitmapEditor();
-    void calculatorResultsAreReadOnly();
-    void gaugeCaptionStyleFromItsEditor();
-    void shapeFromTheShapeEditor();
-    void angleFromTheDial();
-    void hintFromTheHintEditor();
-    void verbsOpenTheHelpAtTheContextNumber();
-    void helpPagesAreBuilt();
-    void uicCompiledFormMatchesTheLoadedOne();
-};
 
-void tst_Designer::pluginListsTheComponentsInPaletteOrder()
-{
-    QPluginLoader loader(QStringLiteral(QC_PLUGIN_FILE));
-    QVERIFY2(loader.load(), qPrintable(loader.errorString()));
-    auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(loader.instance());
-    QVERIFY(collection);
-    const auto widgets = collection->customWidgets();
-    QCOMPARE(widgets.size(), int(Components().size()));
-    // In the order of the palette: page by page, and within a page as the
-    // whole palette lists them.
-    int lastPage = 0, lastIndex = -1;
-    for (QDesignerCustomWidgetInterface *w : widgets) {
-        const int page = w->group() == "QuovarSoft" ? 0 : w->group() == "QuovarSoft II" ? 1 : w->group() == "QuovarSoft III" ? 2 : -1;
-        QVERIFY2(page >= lastPage, qPrintable(w->name()));
-        const int index = int(kPalette[page].indexOf(w->name()));
-        QVERIFY2(index >= 0 && (page > lastPage || index > lastIndex), qPrintable(w->name()));
-        lastPage = page;
-        lastIndex = index;
-        QVERIFY(!w->toolTip().isEmpty() && !w->whatsThis().isEmpty());
-        QVERIFY(w->domXml().contains(QStringLiteral("class=\"%1\"").arg(w->name())));
-        QVERIFY(QFile::exists(QStringLiteral(QC_SOURCE_DIR "/src/") + w->includeFile()));
-    }
-}
-
-void tst_Designer::madeInDesignMode()
-{
-    QWidget form;
-    for (const TComponentEntry &e : Components()) {
-        QWidget *w = CreateForDesigner(e, &form);
-        auto *core = dynamic_cast<TComponentCore *>(w);
-        QVERIFY2(core && core->IsDesigning() && core->IsLoading(), e.className);
-    }
-    // Design-mode rules hold from the start: a label shows the name, a
-    // non-visual component its face.
-    QCOMPARE(form.findChild<TqSegmentLabel *>()->Caption(), QStringLiteral("QuovarSoft"));
-    QCOMPARE(form.findChild<TqcDotLabel *>()->Caption(), QStringLiteral("QuovarSoft"));
-    form.show();
-    QVERIFY(form.findChild<TqCalc *>()->isVisible());
-    QTRY_VERIFY(!form.findChild<TqCalc *>()->IsLoading());   // Loaded came once the event loop ran
-}
-
-void tst_Designer::iconsAreTheComponentsOwnPictures()
-{
-    for (const TComponentEntry &e : Components()) {
-        const QIcon icon = ComponentIcon(e);
-        QCOMPARE(icon.availableSizes(), (QList<QSize>{QSize(24, 24), QSize(48, 48)}));
-        const QImage small = icon.pixmap(24, 24).toImage();
-        int opaque = 0;
-        for (int y = 0; y < 24; ++y)
-            for (int x = 0; x < 24; ++x)
-                opaque += qAlpha(small.pixel(x, y)) == 255;
-        QVERIFY2(opaque >= 24 * 8, e.className);   // a picture, at least a third of the square
-    }
-    // The segment cell's icon is its '8': the lit colour is in it.
-    const QImage seg = ComponentIconImage(*FindComponent("TqSegment"), 48);
-    bool lit = false;
-    for (int y = 0; y < 48 && !lit; ++y)
-        for (int x = 0; x < 48 && !lit; ++x)
-            lit = qGreen(seg.pixel(x, y)) > 200 && qRed(seg.pixel(x, y)) < 60;
-    QVERIFY(lit);
-}
-
-// Stored values a loaded component does not keep: a size guard that takes
-// the window system's limits holds those, and a tray icon's ShowDesigning
-// is for the designer only.
-static bool takenFromTheSystem(QWidget *runtime, const QMetaProperty &p)
-{
-    const QByteArray name(p.name());
-    if (const auto *guard = qobject_cast<TqMinMax *>(runtime))
-        return guard->UseDefaultSize() && (name.startsWith("Max") || name.startsWith("Min"));
-    return qobject_cast<TqTrayIcon *>(runtime) && name == "ShowDesigning";
-}
-
-void tst_Designer::formRoundTripThroughDesigner()
-{
-    QString xml = QStringLiteral("<ui version=\"4.0\"><class>Panel</class><widget class=\"QWidget\" name=\"Panel\">"
-                                 "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>640</width><height>480</height></rect></property>");
-    int y = 0;
-    for (const TComponentEntry &e : Components()) {
-        xml += QStringLiteral("<widget class=\"%1\" name=\"%2\"><property name=\"geometry\"><rect><x>0</x><y>%3</y>"
-                              "<width>30</width><height>30</height></rect></property></widget>")
-                   .arg(QLatin1String(e.className), QString::fromLatin1(e.className).toLower())
-                   .arg(y);
-        y += 40;
-    }
-    xml += QStringLiteral("</widget></ui>");
-    QVERIFY(d->form->setContents(xml));
-
-    // Every stored property gets a value other than its default, through the
-    // sheet as the property editor sets it.
-    int changed = 0;
-    for (const TComponentEntry &e : Components()) {
-        QWidget *w = d->form->mainContainer()->findChild<QWidget *>(QString::fromLatin1(e.className).toLower());
-        QVERIFY2(w && dynamic_cast<TComponentCore *>(w) && dynamic_cast<TComponentCore *>(w)->IsDesigning(), e.className);
-        auto *sheet = d->extension<QDesignerPropertySheetExtension>(w);
-        for (const QMetaProperty &p : storedProperties(w)) {
-            const int index = sheet->indexOf(QLatin1String(p.name()));
-            if (!sheet->isEnabled(index))
-                continue;
-            QVariant v = otherValue(p, p.read(w));
-            QVERIFY2(v.isValid(), p.name());
-            if (IsColorProperty(p))
-                v = ColorToFormColor(v.value<TColor>());
-            sheet->setProperty(index, v);
-            sheet->setChanged(index, true);
-            ++changed;
-        }
-    }
-    QVERIFY(changed > 80);
-
-    QByteArray saved = d->form->contents().toUtf8();
-    if (qEnvironmentVariableIsSet("QC_WRITE_PANEL_UI")) {   // how tests/data/panel.ui was made
-        QFile out(qEnvironmentVariable("QC_WRITE_PANEL_UI"));
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write(saved);
-    }
-    QBuffer file(&saved);
-    QUiLoader loader;
-    std::unique_ptr<QWidget> loaded;
+    void pluginListsTheComponentsInPaletteOrder()
     {
-        FormLoading loading;
-        loaded.reset(loader.load(&file));
-    }
-    QVERIFY2(loaded, qPrintable(loader.errorString()));
-    for (const TComponentEntry &e : Components()) {
-        const QString name = QString::fromLatin1(e.className).toLower();
-        QWidget *designed = d->form->mainContainer()->findChild<QWidget *>(name);
-        QWidget *runtime = loaded->findChild<QWidget *>(name);
-        QVERIFY2(runtime && QLatin1String(runtime->metaObject()->className()) == QLatin1String(e.className), e.className);
-        for (const QMetaProperty &p : storedProperties(designed))
-            QVERIFY2(p.read(runtime) == p.read(designed) || takenFromTheSystem(runtime, p),
-                     qPrintable(QStringLiteral("%1.%2: %3 after loading, %4 in the designer")
-                                    .arg(e.className, p.name(), describe(p.read(runtime)), describe(p.read(designed)))));
-        if (!e.visual) {
-            QVERIFY(runtime->isHidden());   // a face only while designing
-            QVERIFY(!dynamic_cast<TComponentCore *>(runtime)->IsDesigning());
+        QPluginLoader loader(QStringLiteral(QC_PLUGIN_FILE));
+        QVERIFY2(loader.load(), qPrintable(loader.errorString()));
+        auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(loader.instance());
+        QVERIFY(collection);
+        const auto widgets = collection->customWidgets();
+        QCOMPARE(widgets.size(), int(Components().size()));
+        // In the order of the palette: page by page, and within a page as the
+        // whole palette lists them.
+        int lastPage = 0, lastIndex = -1;
+        for (QDesignerCustomWidgetInterface *w : widgets) {
+            const int page = w->group() == "QuovarSoft" ? 0 : w->group() == "QuovarSoft II" ? 1 : w->group() == "QuovarSoft III" ? 2 : -1;
+            QVERIFY2(page >= lastPage, qPrintable(w->name()));
+            const int index = int(kPalette[page].indexOf(w->name()));
+            QVERIFY2(index >= 0 && (page > lastPage || index > lastIndex), qPrintable(w->name()));
+            lastPage = page;
+            lastIndex = index;
+            QVERIFY(!w->toolTip().isEmpty() && !w->whatsThis().isEmpty());
+            QVERIFY(w->domXml().contains(QStringLiteral("class=\"%1\"").arg(w->name())));
+            QVERIFY(QFile::exists(QStringLiteral(QC_SOURCE_DIR "/src/") + w->includeFile()));
         }
     }
-}
 
-void tst_Designer::colourPropertiesAreColoursAndKeepSystemColours()
-{
-    auto *seg = designOne<TqSegment>("seg");
-    QVERIFY(seg);
-    auto *sheet = d->extension<QDesignerPropertySheetExtension>(seg);
-    const int lit = sheet->indexOf("LitColor"), color = sheet->indexOf("Color");
-    QCOMPARE(sheet->property(lit).metaType().id(), int(QMetaType::QColor));   // a swatch, not a number
-    QCOMPARE(sheet->property(lit).value<QColor>(), QColor(0, 255, 0));
-    sheet->setProperty(lit, QColor(255, 0, 0));
-    QCOMPARE(seg->LitColor(), clRed);
-    sheet->setProperty(color, ColorToFormColor(clBtnFace));
-    sheet->setChanged(color, true);
-    QCOMPARE(seg->Color(), clBtnFace);
-    QCOMPARE(sheet->property(color).value<QColor>().rgb(), ColorToQRgb(clBtnFace));
-    // Saved and loaded, it is the system colour again.
-    const std::unique_ptr<QWidget> loaded = reloaded();
-    QCOMPARE(loaded->findChild<TqSegment *>("seg")->Color(), clBtnFace);
-    // Name is Designer's objectName; it is not shown twice.
-    auto *timerSheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqcTimer>("timer"));
-    QVERIFY(!timerSheet->isVisible(timerSheet->indexOf("Name")));
-    QVERIFY(timerSheet->isVisible(timerSheet->indexOf("Interval")));
-}
+    void madeInDesignMode()
+    {
+        QWidget form;
+        for (const TComponentEntry &e : Components()) {
+            QWidget *w = CreateForDesigner(e, &form);
+            auto *core = dynamic_cast<TComponentCore *>(w);
+            QVERIFY2(core && core->IsDesigning() && core->IsLoading(), e.className);
+        }
+        // Design-mode rules hold from the start: a label shows the name, a
+        // non-visual component its face.
+        QCOMPARE(form.findChild<TqSegmentLabel *>()->Caption(), QStringLiteral("QuovarSoft"));
+        QCOMPARE(form.findChild<TqcDotLabel *>()->Caption(), QStringLiteral("QuovarSoft"));
+        form.show();
+        QVERIFY(form.findChild<TqCalc *>()->isVisible());
+        QTRY_VERIFY(!form.findChild<TqCalc *>()->IsLoading());   // Loaded came once the event loop ran
+    }
 
-void tst_Designer::systemColoursAreChosenInTheColoursDialog()
-{
-    auto *label = designOne<TqcDotLabel>("label");
-    QVERIFY(label);
-    QAction *colours = d->extension<QDesignerTaskMenuExtension>(label)->taskActions().last();
-    QCOMPARE(colours->text(), QStringLiteral("Colours..."));
-    colours->trigger();
-    auto *dialog = label->window()->findChild<TColorsDialog *>("qcolColorsDialog");
-    QVERIFY(dialog && dialog->isVisible());
-    auto *box = dialog->findChild<QComboBox *>("UnLitColor");
-    QCOMPARE(box->currentText(), QStringLiteral("$00002000"));   // unnamed: shown as a value
-    box->activated(box->findText(QStringLiteral("clBtnShadow")));
-    QVERIFY(dialog->SetValue(QStringLiteral("LitColor"), clAqua));
-    dialog->accept();
-    QCOMPARE(label->UnLitColor(), clBtnShadow);
-    QCOMPARE(label->LitColor(), clAqua);
-    // Stored as changed: the saved form brings the system colour back.
-    const std::unique_ptr<QWidget> loaded = reloaded();
-    QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->UnLitColor(), clBtnShadow);
-    QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->LitColor(), clAqua);
-}
+    void iconsAreTheComponentsOwnPictures()
+    {
+        for (const TComponentEntry &e : Components()) {
+            const QIcon icon = ComponentIcon(e);
+            QCOMPARE(icon.availableSizes(), (QList<QSize>{QSize(24, 24), QSize(48, 48)}));
+            const QImage small = icon.pixmap(24, 24).toImage();
+            int opaque = 0;
+            for (int y = 0; y < 24; ++y)
+                for (int x = 0; x < 24; ++x)
+                    opaque += qAlpha(small.pixel(x, y)) == 255;
+            QVERIFY2(opaque >= 24 * 8, e.className);   // a picture, at least a third of the square
+        }
+        // The segment cell's icon is its '8': the lit colour is in it.
+        const QImage seg = ComponentIconImage(*FindComponent("TqSegment"), 48);
+        bool lit = false;
+        for (int y = 0; y < 48 && !lit; ++y)
+            for (int x = 0; x < 48 && !lit; ++x)
+                lit = qGreen(seg.pixel(x, y)) > 200 && qRed(seg.pixel(x, y)) < 60;
+        QVERIFY(lit);
+    }
 
-void tst_Designer::gaugeCaptionStyleFromItsEditor()
-{
-    auto *gauge = designOne<TqGauge>("gauge");
-    QVERIFY(gauge);
-    auto *menu = d->extension<QDesignerTaskMenuExtension>(gauge);
-    QAction *edit = menu->preferredEditAction();   // what a double-click opens
-    QVERIFY(edit && menu->taskActions().contains(edit));
-    const auto pick = [&](int style, bool ok) {
-        edit->trigger();
-        auto *editor = gauge->window()->findChild<TqGaugeEditor *>();
-        QVERIFY(editor && editor->isVisible());
-        QCOMPARE(editor->CaptionStyle(), int(gauge->CaptionStyle()));   // opens on the current style
-        auto radios = editor->findChildren<QRadioButton *>();
-        QCOMPARE(radios.size(), 4);
-        QTest::mouseClick(radios[style], Qt::LeftButton);
-        ok ? editor->accept() : editor->reject();
-        QTRY_VERIFY(!gauge->window()->findChild<TqGaugeEditor *>());
-    };
-    pick(TqGauge::gaTotPct, false);
-    QCOMPARE(gauge->CaptionStyle(), TqGauge::gaPctBar);   // Cancel leaves it
-    pick(TqGauge::gaTotPct, true);
-    QCOMPARE(gauge->CaptionStyle(), TqGauge::gaTotPct);
-    QVERIFY(d->form->contents().contains(QStringLiteral("gaTotPct")));   // stored with the form
-    d->form->commandHistory()->undo();
-    QCOMPARE(gauge->CaptionStyle(), TqGauge::gaPctBar);
-}
+    void formRoundTripThroughDesigner()
+    {
+        QString xml = QStringLiteral("<ui version=\"4.0\"><class>Panel</class><widget class=\"QWidget\" name=\"Panel\">"
+                                     "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>640</width><height>480</height></rect></property>");
+        int y = 0;
+        for (const TComponentEntry &e : Components()) {
+            xml += QStringLiteral("<widget class=\"%1\" name=\"%2\"><property name=\"geometry\"><rect><x>0</x><y>%3</y>"
+                                  "<width>30</width><height>30</height></rect></property></widget>")
+                       .arg(QLatin1String(e.className), QString::fromLatin1(e.className).toLower())
+                       .arg(y);
+            y += 40;
+        }
+        xml += QStringLiteral("</widget></ui>");
+        QVERIFY(d->form->setContents(xml));
 
-void tst_Designer::shapeFromTheShapeEditor()
-{
-    auto *button = designOne<TqShapeBtn>("shape");
-    QVERIFY(button);
-    QAction *edit = d->extension<QDesignerTaskMenuExtension>(button)->preferredEditAction();
-    QVERIFY(edit);
-    edit->trigger();
-    auto *editor = button->window()->findChild<TqShapeBtnEditor *>();
-    QVERIFY(editor);
-    QCOMPARE(editor->Shape(), int(TqShapeBtn::sbRectangle));
-    editor->SetShape(TqShapeBtn::sbPlus);
-    editor->accept();
-    QCOMPARE(button->Shape(), TqShapeBtn::sbPlus);
-    QCOMPARE(button->GetAccelkey(), QChar(u'+'));
-    QVERIFY(d->form->contents().contains(QStringLiteral("sbPlus")));
-}
+        // Every stored property gets a value other than its default, through the
+        // sheet as the property editor sets it.
+        int changed = 0;
+        for (const TComponentEntry &e : Components()) {
+            QWidget *w = d->form->mainContainer()->findChild<QWidget *>(QString::fromLatin1(e.className).toLower());
+            QVERIFY2(w && dynamic_cast<TComponentCore *>(w) && dynamic_cast<TComponentCore *>(w)->IsDesigning(), e.className);
+            auto *sheet = d->extension<QDesignerPropertySheetExtension>(w);
+            for (const QMetaProperty &p : storedProperties(w)) {
+                const int index = sheet->indexOf(QLatin1String(p.name()));
+                if (!sheet->isEnabled(index))
+                    continue;
+                QVariant v = otherValue(p, p.read(w));
+                QVERIFY2(v.isValid(), p.name());
+                if (IsColorProperty(p))
+                    v = ColorToFormColor(v.value<TColor>());
+                sheet->setProperty(index, v);
+                sheet->setChanged(index, true);
+                ++changed;
+            }
+        }
+        QVERIFY(changed > 80);
 
-void tst_Designer::angleFromTheDial()
-{
-    // The dial's six o'clock start and clockwise turn against the label's
-    // anticlockwise angle from three o'clock.
-    QCOMPARE(TqAngleEditor::DialValue(0), 270);
-    QCOMPARE(TqAngleEditor::DialValue(90), 180);
-    QCOMPARE(TqAngleEditor::AngleOfDial(0), 270);
-    auto *label = design<TqAngleLabel>(QStringLiteral("<widget class=\"TqAngleLabel\" name=\"label\">"
-                                                      "<property name=\"Angle\"><number>30</number></property></widget>"),
-                                       "label");
-    QVERIFY(label);
-    QCOMPARE(label->Angle(), 30);
-    QAction *edit = d->extension<QDesignerTaskMenuExtension>(label)->preferredEditAction();
-    QVERIFY(edit);
-    edit->trigger();
-    auto *editor = label->window()->findChild<TqAngleEditor *>();
-    QVERIFY(editor);
-    QCOMPARE(editor->Angle(), 30);
-    QCOMPARE(editor->Dial()->value(), 240);
-    editor->Dial()->setFocus();
-    QTest::keyClick(editor->Dial(), Qt::Key_PageUp);   // a notch on: clockwise, so the angle goes down
-    QCOMPARE(editor->Angle(), 15);
-    editor->accept();
-    QCOMPARE(label->Angle(), 15);
-    QVERIFY(d->form->contents().contains(QStringLiteral("<number>15</number>")));
-    d->form->commandHistory()->undo();
-    QCOMPARE(label->Angle(), 30);
-}
+        QByteArray saved = d->form->contents().toUtf8();
+        if (qEnvironmentVariableIsSet("QC_WRITE_PANEL_UI")) {   // how tests/data/panel.ui was made
+            QFile out(qEnvironmentVariable("QC_WRITE_PANEL_UI"));
+            QVERIFY(out.open(QIODevice::WriteOnly));
+            out.write(saved);
+        }
+        QBuffer file(&saved);
+        QUiLoader loader;
+        std::unique_ptr<QWidget> loaded;
+        {
+            FormLoading loading;
+            loaded.reset(loader.load(&file));
+        }
+        QVERIFY2(loaded, qPrintable(loader.errorString()));
+        for (const TComponentEntry &e : Components()) {
+            const QString name = QString::fromLatin1(e.className).toLower();
+            QWidget *designed = d->form->mainContainer()->findChild<QWidget *>(name);
+            QWidget *runtime = loaded->findChild<QWidget *>(name);
+            QVERIFY2(runtime && QLatin1String(runtime->metaObject()->className()) == QLatin1String(e.className), e.className);
+            for (const QMetaProperty &p : storedProperties(designed))
+                QVERIFY2(p.read(runtime) == p.read(designed) || takenFromTheSystem(runtime, p),
+                         qPrintable(QStringLiteral("%1.%2: %3 after loading, %4 in the designer")
+                                        .arg(e.className, p.name(), describe(p.read(runtime)), describe(p.read(designed)))));
+            if (!e.visual) {
+                QVERIFY(runtime->isHidden());   // a face only while designing
+                QVERIFY(!dynamic_cast<TComponentCore *>(runtime)->IsDesigning());
+            }
+        }
+    }
 
-void tst_Designer::hintFromTheHintEditor()
-{
-    // A control that publishes Hint, one whose hint is its tool tip, and a
-    // non-visual one without a hint.
-    QVERIFY(design<QWidget>(QStringLiteral("<widget class=\"TqLed\" name=\"led\"/><widget class=\"Tq3DLabel\" name=\"label\"/>"
-                                           "<widget class=\"TqcTimer\" name=\"timer\"/>"),
-                            "led"));
-    const auto hintAction = [&](QWidget *w) -> QAction * {
-        for (QAction *a : d->extension<QDesignerTaskMenuExtension>(w)->taskActions())
-            if (a->objectName() == QLatin1String("qcolEditHint"))
-                return a;
-        return nullptr;
-    };
-    QVERIFY(!hintAction(d->form->mainContainer()->findChild<QWidget *>("timer")));
-    for (const char *name : {"led", "label"}) {
-        QWidget *w = d->form->mainContainer()->findChild<QWidget *>(name);
-        QAction *edit = hintAction(w);
-        QVERIFY2(edit, name);
-        QVERIFY(d->extension<QDesignerTaskMenuExtension>(w)->preferredEditAction() != edit);
-        edit->trigger();
-        auto *editor = w->window()->findChild<TqHintEditor *>();
+    void colourPropertiesAreColoursAndKeepSystemColours()
+    {
+        auto *seg = designOne<TqSegment>("seg");
+        QVERIFY(seg);
+        auto *sheet = d->extension<QDesignerPropertySheetExtension>(seg);
+        const int lit = sheet->indexOf("LitColor"), color = sheet->indexOf("Color");
+        QCOMPARE(sheet->property(lit).metaType().id(), int(QMetaType::QColor));   // a swatch, not a number
+        QCOMPARE(sheet->property(lit).value<QColor>(), QColor(0, 255, 0));
+        sheet->setProperty(lit, QColor(255, 0, 0));
+        QCOMPARE(seg->LitColor(), clRed);
+        sheet->setProperty(color, ColorToFormColor(clBtnFace));
+        sheet->setChanged(color, true);
+        QCOMPARE(seg->Color(), clBtnFace);
+        QCOMPARE(sheet->property(color).value<QColor>().rgb(), ColorToQRgb(clBtnFace));
+        // Saved and loaded, it is the system colour again.
+        const std::unique_ptr<QWidget> loaded = reloaded();
+        QCOMPARE(loaded->findChild<TqSegment *>("seg")->Color(), clBtnFace);
+        // Name is Designer's objectName; it is not shown twice.
+        auto *timerSheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqcTimer>("timer"));
+        QVERIFY(!timerSheet->isVisible(timerSheet->indexOf("Name")));
+        QVERIFY(timerSheet->isVisible(timerSheet->indexOf("Interval")));
+    }
+
+    void systemColoursAreChosenInTheColoursDialog()
+    {
+        auto *label = designOne<TqcDotLabel>("label");
+        QVERIFY(label);
+        QAction *colours = d->extension<QDesignerTaskMenuExtension>(label)->taskActions().last();
+        QCOMPARE(colours->text(), QStringLiteral("Colours..."));
+        colours->trigger();
+        auto *dialog = label->window()->findChild<TColorsDialog *>("qcolColorsDialog");
+        QVERIFY(dialog && dialog->isVisible());
+        auto *box = dialog->findChild<QComboBox *>("UnLitColor");
+        QCOMPARE(box->currentText(), QStringLiteral("$00002000"));   // unnamed: shown as a value
+        box->activated(box->findText(QStringLiteral("clBtnShadow")));
+        QVERIFY(dialog->SetValue(QStringLiteral("LitColor"), clAqua));
+        dialog->accept();
+        QCOMPARE(label->UnLitColor(), clBtnShadow);
+        QCOMPARE(label->LitColor(), clAqua);
+        // Stored as changed: the saved form brings the system colour back.
+        const std::unique_ptr<QWidget> loaded = reloaded();
+        QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->UnLitColor(), clBtnShadow);
+        QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->LitColor(), clAqua);
+    }
+
+    void bitmapFromTheBitmapEditor()
+    {
+        QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("rivet.png"));
+        QImage tile(8, 6, QImage::Format_RGB32);
+        tile.fill(Qt::red);
+        QVERIFY(tile.save(file));
+        auto *map = designOne<TqTileMap>("map");
+        QVERIFY(map);
+        QAction *edit = d->extension<QDesignerTaskMenuExtension>(map)->preferredEditAction();
+        QVERIFY(edit);
+        const auto open = [&] {
+            edit->trigger();
+            auto *editor = map->window()->findChild<TqBitmapEditor *>();
+            return editor;
+        };
+        TqBitmapEditor *editor = open();
         QVERIFY(editor);
-        QTest::keyClicks(editor->Editor(), QStringLiteral("Lamp"));
-        QTest::keyClick(editor->Editor(), Qt::Key_Return);
-        QTest::keyClicks(editor->Editor(), QStringLiteral("second line"));
+        QVERIFY(editor->Picture().isNull());
+        QVERIFY(!editor->Load(dir.filePath(QStringLiteral("missing.png"))));   // not a picture: nothing changes
+        QVERIFY(editor->Load(file));
         editor->accept();
-        QTRY_VERIFY(!w->window()->findChild<TqHintEditor *>());
-        // Stored with the form (Designer keeps a tool tip off the widget it
-        // designs), and one undoable change.
-        QVERIFY2(d->form->contents().contains(QStringLiteral("Lamp\nsecond line")), name);
-        if (QLatin1String(name) == "led")
-            QCOMPARE(static_cast<TqLed *>(w)->Hint(), QStringLiteral("Lamp\nsecond line"));
+        QCOMPARE(map->Bitmap().size(), QSize(8, 6));
+        QVERIFY(d->form->contents().contains(QStringLiteral("rivet.png</pixmap>")));   // stored as its file
+        // Opened again it shows the picture and its file; Clear empties it.
+        QTRY_VERIFY(!map->window()->findChild<TqBitmapEditor *>());
+        editor = open();
+        QCOMPARE(editor->FileName(), file);
+        QCOMPARE(editor->Picture().size(), QSize(8, 6));
+        editor->Clear();
+        editor->accept();
+        QVERIFY(map->Bitmap().isNull());
+        QVERIFY(!d->form->contents().contains(QStringLiteral("rivet.png")));
+        // Designer makes one change of the two, and undoes it.
+        QVERIFY(d->form->commandHistory()->canUndo());
         d->form->commandHistory()->undo();
-        QVERIFY(!d->form->contents().contains(QStringLiteral("second line")));
+        QVERIFY(map->Bitmap().isNull());
+        // The pictures of a saved form come back when it is loaded.
+        auto *picture = design<TqBitmap>(
+            QStringLiteral("<widget class=\"TqBitmap\" name=\"picture\"/><widget class=\"TqBitColBtn\" name=\"button\"/>"),
+            "picture");
+        auto *button = d->form->mainContainer()->findChild<TqBitColBtn *>("button");
+        d->form->cursor()->setWidgetProperty(picture, QStringLiteral("Bitmap"), DesignerPixmapValue(file));
+        d->form->cursor()->setWidgetProperty(button, QStringLiteral("Glyph"), DesignerPixmapValue(file));
+        const std::unique_ptr<QWidget> loaded = reloaded();
+        QVERIFY(loaded);
+        QCOMPARE(loaded->findChild<TqBitmap *>("picture")->Bitmap().size(), QSize(8, 6));
+        QCOMPARE(loaded->findChild<TqBitColBtn *>("button")->Glyph().toImage().pixel(0, 0), qRgb(255, 0, 0));
     }
-}
 
-void tst_Designer::bitmapFromTheBitmapEditor()
-{
-    QTemporaryDir dir;
-    const QString file = dir.filePath(QStringLiteral("rivet.png"));
-    QImage tile(8, 6, QImage::Format_RGB32);
-    tile.fill(Qt::red);
-    QVERIFY(tile.save(file));
-    auto *map = designOne<TqTileMap>("map");
-    QVERIFY(map);
-    QAction *edit = d->extension<QDesignerTaskMenuExtension>(map)->preferredEditAction();
-    QVERIFY(edit);
-    const auto open = [&] {
-        edit->trigger();
-        auto *editor = map->window()->findChild<TqBitmapEditor *>();
-        return editor;
-    };
-    TqBitmapEditor *editor = open();
-    QVERIFY(editor);
-    QVERIFY(editor->Picture().isNull());
-    QVERIFY(!editor->Load(dir.filePath(QStringLiteral("missing.png"))));   // not a picture: nothing changes
-    QVERIFY(editor->Load(file));
-    editor->accept();
-    QCOMPARE(map->Bitmap().size(), QSize(8, 6));
-    QVERIFY(d->form->contents().contains(QStringLiteral("rivet.png</pixmap>")));   // stored as its file
-    // Opened again it shows the picture and its file; Clear empties it.
-    QTRY_VERIFY(!map->window()->findChild<TqBitmapEditor *>());
-    editor = open();
-    QCOMPARE(editor->FileName(), file);
-    QCOMPARE(editor->Picture().size(), QSize(8, 6));
-    editor->Clear();
-    editor->accept();
-    QVERIFY(map->Bitmap().isNull());
-    QVERIFY(!d->form->contents().contains(QStringLiteral("rivet.png")));
-    // Designer makes one change of the two, and undoes it.
-    QVERIFY(d->form->commandHistory()->canUndo());
-    d->form->commandHistory()->undo();
-    QVERIFY(map->Bitmap().isNull());
-    // The pictures of a saved form come back when it is loaded.
-    auto *picture = design<TqBitmap>(
-        QStringLiteral("<widget class=\"TqBitmap\" name=\"picture\"/><widget class=\"TqBitColBtn\" name=\"button\"/>"),
-        "picture");
-    auto *button = d->form->mainContainer()->findChild<TqBitColBtn *>("button");
-    d->form->cursor()->setWidgetProperty(picture, QStringLiteral("Bitmap"), DesignerPixmapValue(file));
-    d->form->cursor()->setWidgetProperty(button, QStringLiteral("Glyph"), DesignerPixmapValue(file));
-    const std::unique_ptr<QWidget> loaded = reloaded();
-    QVERIFY(loaded);
-    QCOMPARE(loaded->findChild<TqBitmap *>("picture")->Bitmap().size(), QSize(8, 6));
-    QCOMPARE(loaded->findChild<TqBitColBtn *>("button")->Glyph().toImage().pixel(0, 0), qRgb(255, 0, 0));
-}
-
-void tst_Designer::calculatorResultsAreReadOnly()
-{
-    auto *sheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqCalc>("calc"));
-    for (const char *name : {"NumberNum", "Number", "RegisterA", "RegisterD", "CalcResult", "WhereIsLastError"})
-        QVERIFY2(!sheet->isEnabled(sheet->indexOf(name)) && sheet->isVisible(sheet->indexOf(name)), name);
-    for (const char *name : {"RegisterF", "RegisterJ", "CalcLine", "RegisterANum"})
-        QVERIFY2(sheet->isEnabled(sheet->indexOf(name)), name);
-}
-
-void tst_Designer::verbsOpenTheHelpAtTheContextNumber()
-{
-    QVERIFY(design<QWidget>(
-        QStringLiteral("<widget class=\"TqSegmentLabel\" name=\"label\"/><widget class=\"TqcTimer\" name=\"timer\"/>"), "label"));
-    QList<THelpRequest> requests;
-    SetHelpViewer([&](const THelpRequest &r) { requests << r; return true; });
-    for (const auto &[name, context] : {std::pair{"label", 13}, std::pair{"timer", 49}}) {
-        QWidget *w = d->form->mainContainer()->findChild<QWidget *>(name);
-        auto *menu = d->extension<QDesignerTaskMenuExtension>(w);
-        QVERIFY(menu);
-        const QList<QAction *> actions = menu->taskActions();
-        // The verbs; then, for the label, its hint editor and the colours
-        // dialog, each after a separator.
-        QCOMPARE(actions.size(), QLatin1String(name) == "label" ? 7 : 3);
-        QCOMPARE(actions[0]->text(), QStringLiteral("Help for component"));
-        QCOMPARE(actions[1]->text(), QStringLiteral("Help for QuovarCollection"));
-        QCOMPARE(actions[2]->text(), QStringLiteral("About QuovarCollection..."));
-        QCOMPARE(actions[0]->data().toInt(), context);
-        requests.clear();
-        actions[0]->trigger();
-        actions[1]->trigger();
-        QCOMPARE(requests.size(), 2);
-        QCOMPARE(requests[0].context, context);
-        QCOMPARE(requests[0].page, QLatin1String(name) == "label" ? QStringLiteral("tqsegmentlabel.html") : QStringLiteral("tqctimer.html"));
-        QCOMPARE(requests[1].page, QStringLiteral("index.html"));
-    }
-    // No viewer: the user is told, nothing else happens.
-    SetHelpViewer([](const THelpRequest &) { return false; });
-    QVERIFY(!ShowHelpTopic(13, &d->top));
-    auto *message = d->top.findChild<QMessageBox *>("qcolHelpMessage");
-    QVERIFY(message && message->isVisible());
-    QVERIFY(message->text().contains(QStringLiteral("tqsegmentlabel.html")));
-    message->close();
-    SetHelpViewer({});
-    // The about box names the version.
-    TComponentEditor(13).ExecuteVerb(2, &d->top);
-    auto *about = d->top.findChild<QMessageBox *>("qcolAboutBox");
-    QVERIFY(about && about->isVisible());
-    QVERIFY(about->text().contains(QStringLiteral("QuovarCollection " QC_VERSION)));
-    about->close();
-}
-
-void tst_Designer::helpPagesAreBuilt()
-{
-    const QString dir = HelpDirectory();
-    QVERIFY2(!dir.isEmpty(), "the help of the build tree was not found");
-    std::vector<TComponentEntry> entries = Components();
-    entries.insert(entries.end(), CodeOnlyComponents().begin(), CodeOnlyComponents().end());
-    for (const TComponentEntry &e : entries) {
-        const bool codeOnly = e.page == kCodeOnlyPage;
-        QFile page(dir + QStringLiteral("/html/") + (codeOnly ? HelpPageOf(e) : HelpPage(e.helpContext)));
-        QVERIFY2(page.open(QIODevice::ReadOnly), qPrintable(page.fileName()));
-        const QString html = QString::fromUtf8(page.readAll());
-        const QImage picture(dir + QStringLiteral("/html/") + QString::fromLatin1(e.className).toLower() + QStringLiteral(".png"));
-        QVERIFY2(!picture.isNull(), e.className);
-        // Every property and event the component publishes is on its page.
-        const std::unique_ptr<QWidget> made(e.create(nullptr));
-        const QMetaObject *meta = made->metaObject();
-        for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i)
-            QVERIFY2(html.contains(QStringLiteral("<code>%1</code>").arg(QLatin1String(meta->property(i).name()))),
-                     meta->property(i).name());
-        QVERIFY(html.contains(codeOnly ? QStringLiteral("made in code") : QStringLiteral("help topic %1").arg(e.helpContext)));
-    }
-    QFile project(dir + QStringLiteral("/html/qcol.qhp"));
-    QVERIFY(project.open(QIODevice::ReadOnly));
-    QVERIFY(project.readAll().contains("<keyword name=\"TqSegment\" id=\"12\" ref=\"tqsegment.html\"/>"));
-}
-
-void tst_Designer::uicCompiledFormMatchesTheLoadedOne()
-{
-    QWidget compiled;
+    void calculatorResultsAreReadOnly()
     {
-        FormLoading loading;
-        Ui::Panel ui;
-        ui.setupUi(&compiled);
+        auto *sheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqCalc>("calc"));
+        for (const char *name : {"NumberNum", "Number", "RegisterA", "RegisterD", "CalcResult", "WhereIsLastError"})
+            QVERIFY2(!sheet->isEnabled(sheet->indexOf(name)) && sheet->isVisible(sheet->indexOf(name)), name);
+        for (const char *name : {"RegisterF", "RegisterJ", "CalcLine", "RegisterANum"})
+            QVERIFY2(sheet->isEnabled(sheet->indexOf(name)), name);
     }
-    QFile file(QStringLiteral(QC_SOURCE_DIR "/tests/data/panel.ui"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QUiLoader loader;
-    std::unique_ptr<QWidget> loaded(loader.load(&file));
-    QVERIFY(loaded);
-    int compared = 0;
-    for (const TComponentEntry &e : Components()) {
-        const QString name = QString::fromLatin1(e.className).toLower();
-        QWidget *a = compiled.findChild<QWidget *>(name), *b = loaded->findChild<QWidget *>(name);
-        QVERIFY2(a && b, e.className);
-        QVERIFY(!dynamic_cast<TComponentCore *>(a)->IsLoading());   // Loaded has run
-        for (const QMetaProperty &p : storedProperties(a)) {
-            QVERIFY2(p.read(a) == p.read(b) || takenFromTheSystem(a, p), qPrintable(QStringLiteral("%1.%2").arg(e.className, p.name())));
-            ++compared;
+
+    void gaugeCaptionStyleFromItsEditor()
+    {
+        auto *gauge = designOne<TqGauge>("gauge");
+        QVERIFY(gauge);
+        auto *menu = d->extension<QDesignerTaskMenuExtension>(gauge);
+        QAction *edit = menu->preferredEditAction();   // what a double-click opens
+        QVERIFY(edit && menu->taskActions().contains(edit));
+        const auto pick = [&](int style, bool ok) {
+            edit->trigger();
+            auto *editor = gauge->window()->findChild<TqGaugeEditor *>();
+            QVERIFY(editor && editor->isVisible());
+            QCOMPARE(editor->CaptionStyle(), int(gauge->CaptionStyle()));   // opens on the current style
+            auto radios = editor->findChildren<QRadioButton *>();
+            QCOMPARE(radios.size(), 4);
+            QTest::mouseClick(radios[style], Qt::LeftButton);
+            ok ? editor->accept() : editor->reject();
+            QTRY_VERIFY(!gauge->window()->findChild<TqGaugeEditor *>());
+        };
+        pick(TqGauge::gaTotPct, false);
+        QCOMPARE(gauge->CaptionStyle(), TqGauge::gaPctBar);   // Cancel leaves it
+        pick(TqGauge::gaTotPct, true);
+        QCOMPARE(gauge->CaptionStyle(), TqGauge::gaTotPct);
+        QVERIFY(d->form->contents().contains(QStringLiteral("gaTotPct")));   // stored with the form
+        d->form->commandHistory()->undo();
+        QCOMPARE(gauge->CaptionStyle(), TqGauge::gaPctBar);
+    }
+
+    void shapeFromTheShapeEditor()
+    {
+        auto *button = designOne<TqShapeBtn>("shape");
+        QVERIFY(button);
+        QAction *edit = d->extension<QDesignerTaskMenuExtension>(button)->preferredEditAction();
+        QVERIFY(edit);
+        edit->trigger();
+        auto *editor = button->window()->findChild<TqShapeBtnEditor *>();
+        QVERIFY(editor);
+        QCOMPARE(editor->Shape(), int(TqShapeBtn::sbRectangle));
+        editor->SetShape(TqShapeBtn::sbPlus);
+        editor->accept();
+        QCOMPARE(button->Shape(), TqShapeBtn::sbPlus);
+        QCOMPARE(button->GetAccelkey(), QChar(u'+'));
+        QVERIFY(d->form->contents().contains(QStringLiteral("sbPlus")));
+    }
+
+    void angleFromTheDial()
+    {
+        // The dial's six o'clock start and clockwise turn against the label's
+        // anticlockwise angle from three o'clock.
+        QCOMPARE(TqAngleEditor::DialValue(0), 270);
+        QCOMPARE(TqAngleEditor::DialValue(90), 180);
+        QCOMPARE(TqAngleEditor::AngleOfDial(0), 270);
+        auto *label = design<TqAngleLabel>(QStringLiteral("<widget class=\"TqAngleLabel\" name=\"label\">"
+                                                          "<property name=\"Angle\"><number>30</number></property></widget>"),
+                                           "label");
+        QVERIFY(label);
+        QCOMPARE(label->Angle(), 30);
+        QAction *edit = d->extension<QDesignerTaskMenuExtension>(label)->preferredEditAction();
+        QVERIFY(edit);
+        edit->trigger();
+        auto *editor = label->window()->findChild<TqAngleEditor *>();
+        QVERIFY(editor);
+        QCOMPARE(editor->Angle(), 30);
+        QCOMPARE(editor->Dial()->value(), 240);
+        editor->Dial()->setFocus();
+        QTest::keyClick(editor->Dial(), Qt::Key_PageUp);   // a notch on: clockwise, so the angle goes down
+        QCOMPARE(editor->Angle(), 15);
+        editor->accept();
+        QCOMPARE(label->Angle(), 15);
+        QVERIFY(d->form->contents().contains(QStringLiteral("<number>15</number>")));
+        d->form->commandHistory()->undo();
+        QCOMPARE(label->Angle(), 30);
+    }
+
+    void hintFromTheHintEditor()
+    {
+        // A control that publishes Hint, one whose hint is its tool tip, and a
+        // non-visual one without a hint.
+        QVERIFY(design<QWidget>(QStringLiteral("<widget class=\"TqLed\" name=\"led\"/><widget class=\"Tq3DLabel\" name=\"label\"/>"
+                                               "<widget class=\"TqcTimer\" name=\"timer\"/>"),
+                                "led"));
+        const auto hintAction = [&](QWidget *w) -> QAction * {
+            for (QAction *a : d->extension<QDesignerTaskMenuExtension>(w)->taskActions())
+                if (a->objectName() == QLatin1String("qcolEditHint"))
+                    return a;
+            return nullptr;
+        };
+        QVERIFY(!hintAction(d->form->mainContainer()->findChild<QWidget *>("timer")));
+        for (const char *name : {"led", "label"}) {
+            QWidget *w = d->form->mainContainer()->findChild<QWidget *>(name);
+            QAction *edit = hintAction(w);
+            QVERIFY2(edit, name);
+            QVERIFY(d->extension<QDesignerTaskMenuExtension>(w)->preferredEditAction() != edit);
+            edit->trigger();
+            auto *editor = w->window()->findChild<TqHintEditor *>();
+            QVERIFY(editor);
+            QTest::keyClicks(editor->Editor(), QStringLiteral("Lamp"));
+            QTest::keyClick(editor->Editor(), Qt::Key_Return);
+            QTest::keyClicks(editor->Editor(), QStringLiteral("second line"));
+            editor->accept();
+            QTRY_VERIFY(!w->window()->findChild<TqHintEditor *>());
+            // Stored with the form (Designer keeps a tool tip off the widget it
+            // designs), and one undoable change.
+            QVERIFY2(d->form->contents().contains(QStringLiteral("Lamp\nsecond line")), name);
+            if (QLatin1String(name) == "led")
+                QCOMPARE(static_cast<TqLed *>(w)->Hint(), QStringLiteral("Lamp\nsecond line"));
+            d->form->commandHistory()->undo();
+            QVERIFY(!d->form->contents().contains(QStringLiteral("second line")));
         }
     }
-    QVERIFY(compared > 80);
-    QCOMPARE(compiled.findChild<TqSegmentLabel *>("tqsegmentlabel")->Caption(), QStringLiteral("2.5"));
-    QCOMPARE(compiled.findChild<TqCalc *>("tqcalc")->CalcLine(), QStringLiteral("2.5"));
-}
+
+    void verbsOpenTheHelpAtTheContextNumber()
+    {
+        QVERIFY(design<QWidget>(
+            QStringLiteral("<widget class=\"TqSegmentLabel\" name=\"label\"/><widget class=\"TqcTimer\" name=\"timer\"/>"), "label"));
+        QList<THelpRequest> requests;
+        SetHelpViewer([&](const THelpRequest &r) { requests << r; return true; });
+        for (const auto &[name, context] : {std::pair{"label", 13}, std::pair{"timer", 49}}) {
+            QWidget *w = d->form->mainContainer()->findChild<QWidget *>(name);
+            auto *menu = d->extension<QDesignerTaskMenuExtension>(w);
+            QVERIFY(menu);
+            const QList<QAction *> actions = menu->taskActions();
+            // The verbs; then, for the label, its hint editor and the colours
+            // dialog, each after a separator.
+            QCOMPARE(actions.size(), QLatin1String(name) == "label" ? 7 : 3);
+            QCOMPARE(actions[0]->text(), QStringLiteral("Help for component"));
+            QCOMPARE(actions[1]->text(), QStringLiteral("Help for QuovarCollection"));
+            QCOMPARE(actions[2]->text(), QStringLiteral("About QuovarCollection..."));
+            QCOMPARE(actions[0]->data().toInt(), context);
+            requests.clear();
+            actions[0]->trigger();
+            actions[1]->trigger();
+            QCOMPARE(requests.size(), 2);
+            QCOMPARE(requests[0].context, context);
+            QCOMPARE(requests[0].page, QLatin1String(name) == "label" ? QStringLiteral("tqsegmentlabel.html") : QStringLiteral("tqctimer.html"));
+            QCOMPARE(requests[1].page, QStringLiteral("index.html"));
+        }
+        // No viewer: the user is told, nothing else happens.
+        SetHelpViewer([](const THelpRequest &) { return false; });
+        QVERIFY(!ShowHelpTopic(13, &d->top));
+        auto *message = d->top.findChild<QMessageBox *>("qcolHelpMessage");
+        QVERIFY(message && message->isVisible());
+        QVERIFY(message->text().contains(QStringLiteral("tqsegmentlabel.html")));
+        message->close();
+        SetHelpViewer({});
+        // The about box names the version.
+        TComponentEditor(13).ExecuteVerb(2, &d->top);
+        auto *about = d->top.findChild<QMessageBox *>("qcolAboutBox");
+        QVERIFY(about && about->isVisible());
+        QVERIFY(about->text().contains(QStringLiteral("QuovarCollection " QC_VERSION)));
+        about->close();
+    }
+
+    void helpPagesAreBuilt()
+    {
+        const QString dir = HelpDirectory();
+        QVERIFY2(!dir.isEmpty(), "the help of the build tree was not found");
+        std::vector<TComponentEntry> entries = Components();
+        entries.insert(entries.end(), CodeOnlyComponents().begin(), CodeOnlyComponents().end());
+        for (const TComponentEntry &e : entries) {
+            const bool codeOnly = e.page == kCodeOnlyPage;
+            QFile page(dir + QStringLiteral("/html/") + (codeOnly ? HelpPageOf(e) : HelpPage(e.helpContext)));
+            QVERIFY2(page.open(QIODevice::ReadOnly), qPrintable(page.fileName()));
+            const QString html = QString::fromUtf8(page.readAll());
+            const QImage picture(dir + QStringLiteral("/html/") + QString::fromLatin1(e.className).toLower() + QStringLiteral(".png"));
+            QVERIFY2(!picture.isNull(), e.className);
+            // Every property and event the component publishes is on its page.
+            const std::unique_ptr<QWidget> made(e.create(nullptr));
+            const QMetaObject *meta = made->metaObject();
+            for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i)
+                QVERIFY2(html.contains(QStringLiteral("<code>%1</code>").arg(QLatin1String(meta->property(i).name()))),
+                         meta->property(i).name());
+            QVERIFY(html.contains(codeOnly ? QStringLiteral("made in code") : QStringLiteral("help topic %1").arg(e.helpContext)));
+        }
+        QFile project(dir + QStringLiteral("/html/qcol.qhp"));
+        QVERIFY(project.open(QIODevice::ReadOnly));
+        QVERIFY(project.readAll().contains("<keyword name=\"TqSegment\" id=\"12\" ref=\"tqsegment.html\"/>"));
+    }
+
+    void uicCompiledFormMatchesTheLoadedOne()
+    {
+        QWidget compiled;
+        {
+            FormLoading loading;
+            Ui::Panel ui;
+            ui.setupUi(&compiled);
+        }
+        QFile file(QStringLiteral(QC_SOURCE_DIR "/tests/data/panel.ui"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QUiLoader loader;
+        std::unique_ptr<QWidget> loaded(loader.load(&file));
+        QVERIFY(loaded);
+        int compared = 0;
+        for (const TComponentEntry &e : Components()) {
+            const QString name = QString::fromLatin1(e.className).toLower();
+            QWidget *a = compiled.findChild<QWidget *>(name), *b = loaded->findChild<QWidget *>(name);
+            QVERIFY2(a && b, e.className);
+            QVERIFY(!dynamic_cast<TComponentCore *>(a)->IsLoading());   // Loaded has run
+            for (const QMetaProperty &p : storedProperties(a)) {
+                QVERIFY2(p.read(a) == p.read(b) || takenFromTheSystem(a, p), qPrintable(QStringLiteral("%1.%2").arg(e.className, p.name())));
+                ++compared;
+            }
+        }
+        QVERIFY(compared > 80);
+        QCOMPARE(compiled.findChild<TqSegmentLabel *>("tqsegmentlabel")->Caption(), QStringLiteral("2.5"));
+        QCOMPARE(compiled.findChild<TqCalc *>("tqcalc")->CalcLine(), QStringLiteral("2.5"));
+    }
+};
 
 QTEST_MAIN(tst_Designer)
 #include "tst_designer.moc"

@@ -151,48 +151,45 @@ class tst_GdiReference : public QObject
 {
     Q_OBJECT
 private slots:
-    void matchesThePlatform_data();
-    void matchesThePlatform();
+    void matchesThePlatform_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QDir root(kDataDir);
+        const QStringList kinds = root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+        QVERIFY2(kinds.size() > 40, qPrintable(kDataDir));
+        for (const QString &kind : kinds) {
+            const QDir dir(root.filePath(kind));
+            for (const QString &name : dir.entryList({"*.txt"}, QDir::Files, QDir::Name))
+                QTest::newRow(qPrintable(kind + '/' + name.chopped(4))) << dir.filePath(name);
+        }
+    }
+
+    void matchesThePlatform()
+    {
+        QFETCH(QString, path);
+        QImage drawn;
+        const QString unread = replay(path, drawn);
+        QVERIFY2(unread.isEmpty(), qPrintable("cannot replay: " + unread));
+        const QImage expected = QImage(path.chopped(4) + ".png").convertToFormat(QImage::Format_RGB32);
+        QCOMPARE(drawn.size(), expected.size());
+        int wrong = 0;
+        QString first;
+        for (int y = 0; y < expected.height(); ++y)
+            for (int x = 0; x < expected.width(); ++x)
+                if ((drawn.pixel(x, y) & 0xFFFFFF) != (expected.pixel(x, y) & 0xFFFFFF)) {
+                    if (!wrong++)
+                        first = QStringLiteral("(%1,%2) drew %3, expected %4").arg(x).arg(y)
+                                    .arg(drawn.pixel(x, y) & 0xFFFFFF, 6, 16, QChar('0'))
+                                    .arg(expected.pixel(x, y) & 0xFFFFFF, 6, 16, QChar('0'));
+                }
+        if (wrong && qEnvironmentVariableIsSet("QC_DUMP_DIR")) {
+            const QString base = qEnvironmentVariable("QC_DUMP_DIR") + '/' + QString(QTest::currentDataTag()).replace('/', '_');
+            drawn.save(base + "_drawn.png");
+            expected.save(base + "_expected.png");
+        }
+        QVERIFY2(wrong == 0, qPrintable(QStringLiteral("%1 pixels differ, first %2").arg(wrong).arg(first)));
+    }
 };
-
-void tst_GdiReference::matchesThePlatform_data()
-{
-    QTest::addColumn<QString>("path");
-    const QDir root(kDataDir);
-    const QStringList kinds = root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-    QVERIFY2(kinds.size() > 40, qPrintable(kDataDir));
-    for (const QString &kind : kinds) {
-        const QDir dir(root.filePath(kind));
-        for (const QString &name : dir.entryList({"*.txt"}, QDir::Files, QDir::Name))
-            QTest::newRow(qPrintable(kind + '/' + name.chopped(4))) << dir.filePath(name);
-    }
-}
-
-void tst_GdiReference::matchesThePlatform()
-{
-    QFETCH(QString, path);
-    QImage drawn;
-    const QString unread = replay(path, drawn);
-    QVERIFY2(unread.isEmpty(), qPrintable("cannot replay: " + unread));
-    const QImage expected = QImage(path.chopped(4) + ".png").convertToFormat(QImage::Format_RGB32);
-    QCOMPARE(drawn.size(), expected.size());
-    int wrong = 0;
-    QString first;
-    for (int y = 0; y < expected.height(); ++y)
-        for (int x = 0; x < expected.width(); ++x)
-            if ((drawn.pixel(x, y) & 0xFFFFFF) != (expected.pixel(x, y) & 0xFFFFFF)) {
-                if (!wrong++)
-                    first = QStringLiteral("(%1,%2) drew %3, expected %4").arg(x).arg(y)
-                                .arg(drawn.pixel(x, y) & 0xFFFFFF, 6, 16, QChar('0'))
-                                .arg(expected.pixel(x, y) & 0xFFFFFF, 6, 16, QChar('0'));
-            }
-    if (wrong && qEnvironmentVariableIsSet("QC_DUMP_DIR")) {
-        const QString base = qEnvironmentVariable("QC_DUMP_DIR") + '/' + QString(QTest::currentDataTag()).replace('/', '_');
-        drawn.save(base + "_drawn.png");
-        expected.save(base + "_expected.png");
-    }
-    QVERIFY2(wrong == 0, qPrintable(QStringLiteral("%1 pixels differ, first %2").arg(wrong).arg(first)));
-}
 
 QTEST_GUILESS_MAIN(tst_GdiReference)
 #include "tst_gdireference.moc"

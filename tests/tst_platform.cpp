@@ -48,92 +48,86 @@ class tst_Platform : public QObject
 {
     Q_OBJECT
 private slots:
-    void factsMatchTheSystem();
-    void firstHoldsLaterOnesHandOver();
-    void killedFirstLeavesNoLock();
-    void pairedStartsLeaveOneFirst();
-    void channelsOfOneProcessAllHear();
-};
-
-void tst_Platform::factsMatchTheSystem()
-{
-    QCOMPARE(OsVersion().text, runTool("uname", {"-s"}) + QLatin1Char(' ') + runTool("uname", {"-r"}));
-    QCOMPARE(OsVersion().major, runTool("uname", {"-r"}).section(QLatin1Char('.'), 0, 0).toInt());
-    QCOMPARE(ComputerName(), runTool("hostname"));
-    QCOMPARE(UserName(), runTool("id", {"-un"}));
-    QCOMPARE(EnvironmentLines(), QProcess::systemEnvironment());
-    if (runTool("uname", {"-m"}) == QLatin1String("x86_64"))
-        QCOMPARE(ProcessorType(), 8664);
-    QString name, address;
-    if (HostInfo(name, address)) {
-        QCOMPARE(name, runTool("hostname"));
-        QVERIFY(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+\\.\\d+$")).match(address).hasMatch());
-    }
-}
-
-void tst_Platform::firstHoldsLaterOnesHandOver()
-{
-    const QString key = freshKey();
-    Probe first(key, "hold");
-    QCOMPARE(first.line(), QStringLiteral("first"));
-    QCOMPARE(first.line(), QStringLiteral("listening"));
-    for (int i = 0; i < 3; ++i) {
-        Probe later(key, "try");
-        const qint64 pid = later.process.processId();
-        QCOMPARE(later.line(), QStringLiteral("second"));
-        QVERIFY(later.process.waitForFinished(10000));
-        QCOMPARE(later.process.exitCode(), 0);
-        // Exactly one message for each later instance.
-        QCOMPARE(first.line(), QStringLiteral("got hello from %1").arg(pid));
-    }
-    // In this process too the lock is taken; within one process every
-    // lock of a key is the same one.
-    TInstanceLock here(key);
-    QVERIFY(!here.Acquire());
-    const QString mine = freshKey();
-    TInstanceLock a(mine), b(mine);
-    QVERIFY(a.Acquire() && b.Acquire());
-}
-
-void tst_Platform::killedFirstLeavesNoLock()
-{
-    const QString key = freshKey();
+    void factsMatchTheSystem()
     {
+        QCOMPARE(OsVersion().text, runTool("uname", {"-s"}) + QLatin1Char(' ') + runTool("uname", {"-r"}));
+        QCOMPARE(OsVersion().major, runTool("uname", {"-r"}).section(QLatin1Char('.'), 0, 0).toInt());
+        QCOMPARE(ComputerName(), runTool("hostname"));
+        QCOMPARE(UserName(), runTool("id", {"-un"}));
+        QCOMPARE(EnvironmentLines(), QProcess::systemEnvironment());
+        if (runTool("uname", {"-m"}) == QLatin1String("x86_64"))
+            QCOMPARE(ProcessorType(), 8664);
+        QString name, address;
+        if (HostInfo(name, address)) {
+            QCOMPARE(name, runTool("hostname"));
+            QVERIFY(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+\\.\\d+$")).match(address).hasMatch());
+        }
+    }
+
+    void firstHoldsLaterOnesHandOver()
+    {
+        const QString key = freshKey();
         Probe first(key, "hold");
         QCOMPARE(first.line(), QStringLiteral("first"));
-        ::kill(pid_t(first.process.processId()), SIGKILL);
-        QVERIFY(first.process.waitForFinished(10000));
+        QCOMPARE(first.line(), QStringLiteral("listening"));
+        for (int i = 0; i < 3; ++i) {
+            Probe later(key, "try");
+            const qint64 pid = later.process.processId();
+            QCOMPARE(later.line(), QStringLiteral("second"));
+            QVERIFY(later.process.waitForFinished(10000));
+            QCOMPARE(later.process.exitCode(), 0);
+            // Exactly one message for each later instance.
+            QCOMPARE(first.line(), QStringLiteral("got hello from %1").arg(pid));
+        }
+        // In this process too the lock is taken; within one process every
+        // lock of a key is the same one.
+        TInstanceLock here(key);
+        QVERIFY(!here.Acquire());
+        const QString mine = freshKey();
+        TInstanceLock a(mine), b(mine);
+        QVERIFY(a.Acquire() && b.Acquire());
     }
-    Probe next(key, "hold");
-    QCOMPARE(next.line(), QStringLiteral("first"));
-    QCOMPARE(next.line(), QStringLiteral("listening"));   // the name it left is taken over
-    Probe later(key, "try");
-    QCOMPARE(later.line(), QStringLiteral("second"));
-    QVERIFY(next.line().startsWith(QStringLiteral("got hello")));
-}
 
-void tst_Platform::pairedStartsLeaveOneFirst()
-{
-    for (int i = 0; i < 100; ++i) {
+    void killedFirstLeavesNoLock()
+    {
         const QString key = freshKey();
-        Probe a(key, "hold"), b(key, "hold");
-        const QStringList said{a.line(), b.line()};
-        QCOMPARE(said.count(QStringLiteral("first")), 1);
-        QCOMPARE(said.count(QStringLiteral("second")), 1);
+        {
+            Probe first(key, "hold");
+            QCOMPARE(first.line(), QStringLiteral("first"));
+            ::kill(pid_t(first.process.processId()), SIGKILL);
+            QVERIFY(first.process.waitForFinished(10000));
+        }
+        Probe next(key, "hold");
+        QCOMPARE(next.line(), QStringLiteral("first"));
+        QCOMPARE(next.line(), QStringLiteral("listening"));   // the name it left is taken over
+        Probe later(key, "try");
+        QCOMPARE(later.line(), QStringLiteral("second"));
+        QVERIFY(next.line().startsWith(QStringLiteral("got hello")));
     }
-}
 
-void tst_Platform::channelsOfOneProcessAllHear()
-{
-    const QString key = freshKey();
-    TInstanceChannel one(key), two(key);
-    QVERIFY(one.Listen() && two.Listen());
-    QSignalSpy heardOne(&one, &TInstanceChannel::Received), heardTwo(&two, &TInstanceChannel::Received);
-    QVERIFY(TInstanceChannel::Send(key, "ping"));
-    QTRY_COMPARE(heardOne.count(), 1);
-    QTRY_COMPARE(heardTwo.count(), 1);
-    QCOMPARE(heardTwo.at(0).at(0).toByteArray(), QByteArray("ping"));
-}
+    void pairedStartsLeaveOneFirst()
+    {
+        for (int i = 0; i < 100; ++i) {
+            const QString key = freshKey();
+            Probe a(key, "hold"), b(key, "hold");
+            const QStringList said{a.line(), b.line()};
+            QCOMPARE(said.count(QStringLiteral("first")), 1);
+            QCOMPARE(said.count(QStringLiteral("second")), 1);
+        }
+    }
+
+    void channelsOfOneProcessAllHear()
+    {
+        const QString key = freshKey();
+        TInstanceChannel one(key), two(key);
+        QVERIFY(one.Listen() && two.Listen());
+        QSignalSpy heardOne(&one, &TInstanceChannel::Received), heardTwo(&two, &TInstanceChannel::Received);
+        QVERIFY(TInstanceChannel::Send(key, "ping"));
+        QTRY_COMPARE(heardOne.count(), 1);
+        QTRY_COMPARE(heardTwo.count(), 1);
+        QCOMPARE(heardTwo.at(0).at(0).toByteArray(), QByteArray("ping"));
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_Platform)
 #include "tst_platform.moc"

@@ -35,260 +35,245 @@ class tst_QSegLabel : public QObject
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
     void cleanup() { TClockWork::SetDefaultSource({}); }
-    void designTimeCaption();
-    void cellsTouchAndFollowSize();
-    void rebuildFreesOldCells();
-    void zeroCellsKeepTheCaption();
-    void caption_data();
-    void caption();
-    void earlierPointStays();
-    void extentSnapsBack();
-    void coloursAndVisibilityReachEveryCell();
-    void mouseEventsComeFromTheLabel();
-    void pictureShowsTheCaption();
-    void clockTicks_data();
-    void clockTicks();
-    void clockDisplay_data();
-    void clockDisplay();
-};
 
-void tst_QSegLabel::designTimeCaption()
-{
-    DesignTimeCreation designer;
-    TqSegmentLabel label;
-    QCOMPARE(label.Caption(), QStringLiteral("QuovarSoft"));
-    QCOMPARE(cells(label), (QStringList{"Q", "u", "o", "v", "a", "r", "S", "o", "f", "t", " "}));
-}
-
-void tst_QSegLabel::cellsTouchAndFollowSize()
-{
-    TqSegmentLabel label;
-    label.SetSize(2);
-    QCOMPARE(label.size(), QSize(418, 58));
-    for (int i = 0; i < 11; ++i) {
-        QCOMPARE(label.Segment(i)->geometry(), QRect(i * 38, 0, 38, 58));
-        QCOMPARE(int(label.Segment(i)->Size()), 2);
+    void designTimeCaption()
+    {
+        DesignTimeCreation designer;
+        TqSegmentLabel label;
+        QCOMPARE(label.Caption(), QStringLiteral("QuovarSoft"));
+        QCOMPARE(cells(label), (QStringList{"Q", "u", "o", "v", "a", "r", "S", "o", "f", "t", " "}));
     }
-    QVERIFY(!label.Cell(11));
-    label.SetElements(3);
-    QCOMPARE(label.size(), QSize(114, 58));
-    QVERIFY(!label.Cell(3));
-}
 
-void tst_QSegLabel::rebuildFreesOldCells()
-{
-    TqSegmentLabel label;
-    label.SetCaption(QStringLiteral("42"));
-    QPointer<QWidget> old = label.Cell(0);
-    label.SetSize(3);
-    QVERIFY(old.isNull());
-    QCOMPARE(label.findChildren<TqSegment *>().size(), 11);
-    QCOMPARE(cells(label).mid(0, 2), (QStringList{"4", "2"}));   // caption spread again
-    label.SetElements(12);
-    label.SetElements(12);   // unchanged: no rebuild
-    QCOMPARE(label.findChildren<TqSegment *>().size(), 12);
-}
+    void cellsTouchAndFollowSize()
+    {
+        TqSegmentLabel label;
+        label.SetSize(2);
+        QCOMPARE(label.size(), QSize(418, 58));
+        for (int i = 0; i < 11; ++i) {
+            QCOMPARE(label.Segment(i)->geometry(), QRect(i * 38, 0, 38, 58));
+            QCOMPARE(int(label.Segment(i)->Size()), 2);
+        }
+        QVERIFY(!label.Cell(11));
+        label.SetElements(3);
+        QCOMPARE(label.size(), QSize(114, 58));
+        QVERIFY(!label.Cell(3));
+    }
 
-void tst_QSegLabel::zeroCellsKeepTheCaption()
-{
-    TqSegmentLabel label;
-    label.SetCaption(QStringLiteral("7.5"));
-    label.SetElements(0);
-    QCOMPARE(label.width(), 0);
-    QVERIFY(label.findChildren<TqSegment *>().isEmpty());
-    QCOMPARE(label.Caption(), QStringLiteral("7.5"));
-    label.SetElements(2);
-    QCOMPARE(cells(label), (QStringList{"7.", "5"}));
-}
+    void rebuildFreesOldCells()
+    {
+        TqSegmentLabel label;
+        label.SetCaption(QStringLiteral("42"));
+        QPointer<QWidget> old = label.Cell(0);
+        label.SetSize(3);
+        QVERIFY(old.isNull());
+        QCOMPARE(label.findChildren<TqSegment *>().size(), 11);
+        QCOMPARE(cells(label).mid(0, 2), (QStringList{"4", "2"}));   // caption spread again
+        label.SetElements(12);
+        label.SetElements(12);   // unchanged: no rebuild
+        QCOMPARE(label.findChildren<TqSegment *>().size(), 12);
+    }
 
-void tst_QSegLabel::caption_data()
-{
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<QStringList>("shown");
-    QTest::newRow("point folds") << "12.5" << 4 << QStringList{"1", "2.", "5", " "};
-    QTest::newRow("leading point") << ".5" << 3 << QStringList{"..", "5", " "};
-    QTest::newRow("two points") << "1..2" << 3 << QStringList{"1.", "2", " "};
-    QTest::newRow("colon folds") << "12:34" << 4 << QStringList{"1", "2:", "3", "4"};
-    QTest::newRow("comma is a point") << "3,14" << 3 << QStringList{"3.", "1", "4"};
-    QTest::newRow("semicolon is a colon") << "1;2" << 2 << QStringList{"1:", "2"};
-    QTest::newRow("last dot wins") << "1.:2" << 2 << QStringList{"1:", "2"};
-    QTest::newRow("leading colon") << ":5" << 2 << QStringList{"::", "5"};
-    QTest::newRow("cut after the cells") << "ABCDEFGH" << 4 << QStringList{"A", "B", "C", "D"};
-    QTest::newRow("nothing after the last cell") << "1234." << 4 << QStringList{"1", "2", "3", "4"};
-    QTest::newRow("empty is one space") << "" << 2 << QStringList{" ", " "};
-    QTest::newRow("Windows-1252") << QString::fromUtf8("5\u20AC") << 2 << QStringList{"5", QString::fromUtf8("\u20AC")};
-}
+    void zeroCellsKeepTheCaption()
+    {
+        TqSegmentLabel label;
+        label.SetCaption(QStringLiteral("7.5"));
+        label.SetElements(0);
+        QCOMPARE(label.width(), 0);
+        QVERIFY(label.findChildren<TqSegment *>().isEmpty());
+        QCOMPARE(label.Caption(), QStringLiteral("7.5"));
+        label.SetElements(2);
+        QCOMPARE(cells(label), (QStringList{"7.", "5"}));
+    }
 
-void tst_QSegLabel::caption()
-{
-    QFETCH(QString, caption);
-    QFETCH(int, count);
-    QFETCH(QStringList, shown);
-    TqSegmentLabel label;
-    label.SetElements(quint8(count));
-    label.SetCaption(caption);
-    QCOMPARE(cells(label), shown);
-    QCOMPARE(label.Caption(), caption.isEmpty() ? QStringLiteral(" ") : caption);
-}
+    void caption_data()
+    {
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QStringList>("shown");
+        QTest::newRow("point folds") << "12.5" << 4 << QStringList{"1", "2.", "5", " "};
+        QTest::newRow("leading point") << ".5" << 3 << QStringList{"..", "5", " "};
+        QTest::newRow("two points") << "1..2" << 3 << QStringList{"1.", "2", " "};
+        QTest::newRow("colon folds") << "12:34" << 4 << QStringList{"1", "2:", "3", "4"};
+        QTest::newRow("comma is a point") << "3,14" << 3 << QStringList{"3.", "1", "4"};
+        QTest::newRow("semicolon is a colon") << "1;2" << 2 << QStringList{"1:", "2"};
+        QTest::newRow("last dot wins") << "1.:2" << 2 << QStringList{"1:", "2"};
+        QTest::newRow("leading colon") << ":5" << 2 << QStringList{"::", "5"};
+        QTest::newRow("cut after the cells") << "ABCDEFGH" << 4 << QStringList{"A", "B", "C", "D"};
+        QTest::newRow("nothing after the last cell") << "1234." << 4 << QStringList{"1", "2", "3", "4"};
+        QTest::newRow("empty is one space") << "" << 2 << QStringList{" ", " "};
+        QTest::newRow("Windows-1252") << QString::fromUtf8("5\u20AC") << 2 << QStringList{"5", QString::fromUtf8("\u20AC")};
+    }
 
-void tst_QSegLabel::earlierPointStays()
-{
-    TqSegmentLabel label;
-    label.SetElements(3);
-    label.SetCaption(QStringLiteral("1.5"));
-    label.SetCaption(QStringLiteral("15"));
-    // The 1 is unchanged, so its cell is left alone, point and all.
-    QCOMPARE(cells(label), (QStringList{"1.", "5", " "}));
-    label.SetCaption(QStringLiteral("25"));
-    QCOMPARE(cells(label), (QStringList{"2", "5", " "}));
-}
+    void caption()
+    {
+        QFETCH(QString, caption);
+        QFETCH(int, count);
+        QFETCH(QStringList, shown);
+        TqSegmentLabel label;
+        label.SetElements(quint8(count));
+        label.SetCaption(caption);
+        QCOMPARE(cells(label), shown);
+        QCOMPARE(label.Caption(), caption.isEmpty() ? QStringLiteral(" ") : caption);
+    }
 
-void tst_QSegLabel::extentSnapsBack()
-{
-    TqSegmentLabel label;
-    label.show();
-    label.SetWidth(500);
-    QCOMPARE(label.width(), 209);
-    label.SetHeight(5);
-    QCOMPARE(label.height(), 29);
-    label.resize(300, 100);   // as a layout or the designer would
-    QCOMPARE(label.size(), QSize(209, 29));
-    label.setProperty("Width", 17);
-    QCOMPARE(label.width(), 209);
-}
+    void earlierPointStays()
+    {
+        TqSegmentLabel label;
+        label.SetElements(3);
+        label.SetCaption(QStringLiteral("1.5"));
+        label.SetCaption(QStringLiteral("15"));
+        // The 1 is unchanged, so its cell is left alone, point and all.
+        QCOMPARE(cells(label), (QStringList{"1.", "5", " "}));
+        label.SetCaption(QStringLiteral("25"));
+        QCOMPARE(cells(label), (QStringList{"2", "5", " "}));
+    }
 
-void tst_QSegLabel::coloursAndVisibilityReachEveryCell()
-{
-    QWidget form;
-    auto *label = new TqSegmentLabel(&form);
-    label->SetLitColor(clRed);
-    label->SetUnLitColor(clMaroon);
-    label->SetColor(clNavy);
-    QCOMPARE(label->Segment(10)->LitColor(), clRed);
-    QCOMPARE(label->Segment(10)->UnLitColor(), clMaroon);
-    QCOMPARE(label->Segment(10)->Color(), clNavy);
-    label->SetElements(2);   // new cells take the label's settings
-    QCOMPARE(label->Segment(1)->LitColor(), clRed);
-    QCOMPARE(label->Segment(1)->Color(), clNavy);
-    label->SetVisible(false);
-    QVERIFY(!label->Visible());
-    QVERIFY(!label->Segment(0)->Visible());
-    label->SetVisible(true);
-    QVERIFY(label->Segment(1)->Visible());
-    label->SetParentColor(true);
-    QVERIFY(label->Segment(0)->ParentColor());
-    QCOMPARE(label->Segment(0)->Color(), label->Color());
-}
+    void extentSnapsBack()
+    {
+        TqSegmentLabel label;
+        label.show();
+        label.SetWidth(500);
+        QCOMPARE(label.width(), 209);
+        label.SetHeight(5);
+        QCOMPARE(label.height(), 29);
+        label.resize(300, 100);   // as a layout or the designer would
+        QCOMPARE(label.size(), QSize(209, 29));
+        label.setProperty("Width", 17);
+        QCOMPARE(label.width(), 209);
+    }
 
-void tst_QSegLabel::mouseEventsComeFromTheLabel()
-{
-    TqSegmentLabel label;
-    label.SetSize(2);
-    QSignalSpy clicks(&label, &TControl::OnClick), downs(&label, &TControl::OnMouseDown),
-        moves(&label, &TControl::OnMouseMove);
-    // A click on the third cell, 5 pixels into it.
-    QTest::mouseClick(label.Segment(2), Qt::LeftButton, Qt::NoModifier, QPoint(5, 20));
-    QCOMPARE(clicks.count(), 1);
-    QCOMPARE(clicks.at(0).at(0).value<QObject *>(), &label);
-    QCOMPARE(downs.count(), 1);
-    QCOMPARE(downs.at(0).at(0).value<QObject *>(), &label);
-    QCOMPARE(downs.at(0).at(3).toInt(), 5);    // the cell's own X
-    QCOMPARE(downs.at(0).at(4).toInt(), 20);
-    QMouseEvent move(QEvent::MouseMove, QPointF(7, 3), label.Segment(1)->mapToGlobal(QPointF(7, 3)),
-                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(label.Segment(1), &move);
-    QCOMPARE(moves.count(), 1);
-    QCOMPARE(moves.at(0).at(2).toInt(), 7);
-    QSignalSpy doubles(&label, &TControl::OnDblClick);
-    QTest::mouseDClick(label.Segment(0), Qt::LeftButton, Qt::NoModifier, QPoint(2, 3));
-    QCOMPARE(doubles.count(), 1);
-    QCOMPARE(doubles.at(0).at(0).value<QObject *>(), &label);
-}
+    void coloursAndVisibilityReachEveryCell()
+    {
+        QWidget form;
+        auto *label = new TqSegmentLabel(&form);
+        label->SetLitColor(clRed);
+        label->SetUnLitColor(clMaroon);
+        label->SetColor(clNavy);
+        QCOMPARE(label->Segment(10)->LitColor(), clRed);
+        QCOMPARE(label->Segment(10)->UnLitColor(), clMaroon);
+        QCOMPARE(label->Segment(10)->Color(), clNavy);
+        label->SetElements(2);   // new cells take the label's settings
+        QCOMPARE(label->Segment(1)->LitColor(), clRed);
+        QCOMPARE(label->Segment(1)->Color(), clNavy);
+        label->SetVisible(false);
+        QVERIFY(!label->Visible());
+        QVERIFY(!label->Segment(0)->Visible());
+        label->SetVisible(true);
+        QVERIFY(label->Segment(1)->Visible());
+        label->SetParentColor(true);
+        QVERIFY(label->Segment(0)->ParentColor());
+        QCOMPARE(label->Segment(0)->Color(), label->Color());
+    }
 
-void tst_QSegLabel::pictureShowsTheCaption()
-{
-    QWidget form;
-    auto *label = new TqSegmentLabel(&form);
-    label->SetCaption(QStringLiteral("1 8"));
-    form.resize(label->size());
-    const QImage shot = form.grab().toImage();
-    // Element 4 (upper right) is lit in the 1 and the 8, not in the blank.
-    const auto poly = SegmentElementPolygon(4, 1);
-    const QPoint inside(poly[0].X - 1, (poly[0].Y + poly[2].Y) / 2);
-    QCOMPARE(shot.pixel(inside), qRgb(0, 255, 0));
-    QCOMPARE(shot.pixel(inside + QPoint(19, 0)), qRgb(0, 0x20, 0));
-    QCOMPARE(shot.pixel(inside + QPoint(38, 0)), qRgb(0, 255, 0));
-    QCOMPARE(shot.pixel(0, 0), qRgb(0, 0, 0));
-}
+    void mouseEventsComeFromTheLabel()
+    {
+        TqSegmentLabel label;
+        label.SetSize(2);
+        QSignalSpy clicks(&label, &TControl::OnClick), downs(&label, &TControl::OnMouseDown),
+            moves(&label, &TControl::OnMouseMove);
+        // A click on the third cell, 5 pixels into it.
+        QTest::mouseClick(label.Segment(2), Qt::LeftButton, Qt::NoModifier, QPoint(5, 20));
+        QCOMPARE(clicks.count(), 1);
+        QCOMPARE(clicks.at(0).at(0).value<QObject *>(), &label);
+        QCOMPARE(downs.count(), 1);
+        QCOMPARE(downs.at(0).at(0).value<QObject *>(), &label);
+        QCOMPARE(downs.at(0).at(3).toInt(), 5);    // the cell's own X
+        QCOMPARE(downs.at(0).at(4).toInt(), 20);
+        QMouseEvent move(QEvent::MouseMove, QPointF(7, 3), label.Segment(1)->mapToGlobal(QPointF(7, 3)),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(label.Segment(1), &move);
+        QCOMPARE(moves.count(), 1);
+        QCOMPARE(moves.at(0).at(2).toInt(), 7);
+        QSignalSpy doubles(&label, &TControl::OnDblClick);
+        QTest::mouseDClick(label.Segment(0), Qt::LeftButton, Qt::NoModifier, QPoint(2, 3));
+        QCOMPARE(doubles.count(), 1);
+        QCOMPARE(doubles.at(0).at(0).value<QObject *>(), &label);
+    }
 
-void tst_QSegLabel::clockTicks_data()
-{
-    QTest::addColumn<bool>("seconds");
-    QTest::newRow("minutes") << false;
-    QTest::newRow("seconds") << true;
-}
+    void pictureShowsTheCaption()
+    {
+        QWidget form;
+        auto *label = new TqSegmentLabel(&form);
+        label->SetCaption(QStringLiteral("1 8"));
+        form.resize(label->size());
+        const QImage shot = form.grab().toImage();
+        // Element 4 (upper right) is lit in the 1 and the 8, not in the blank.
+        const auto poly = SegmentElementPolygon(4, 1);
+        const QPoint inside(poly[0].X - 1, (poly[0].Y + poly[2].Y) / 2);
+        QCOMPARE(shot.pixel(inside), qRgb(0, 255, 0));
+        QCOMPARE(shot.pixel(inside + QPoint(19, 0)), qRgb(0, 0x20, 0));
+        QCOMPARE(shot.pixel(inside + QPoint(38, 0)), qRgb(0, 255, 0));
+        QCOMPARE(shot.pixel(0, 0), qRgb(0, 0, 0));
+    }
 
-void tst_QSegLabel::clockTicks()
-{
-    QFETCH(bool, seconds);
-    QTime now(13, 7, 45);
-    TClockWork::SetDefaultSource([&now] { return now; });
-    TqSegmentClock clock;
-    QCOMPARE(clock.Caption(), QStringLiteral("13:07:45"));
-    clock.SetSek(seconds);
-    QSignalSpy changes(&clock, &TqSegmentClock::OnTimeChange);
-    clock.Timer()->SetInterval(5);
-    QTest::qWait(60);
-    QCOMPARE(int(changes.count()), 0);   // nothing new yet
+    void clockTicks_data()
+    {
+        QTest::addColumn<bool>("seconds");
+        QTest::newRow("minutes") << false;
+        QTest::newRow("seconds") << true;
+    }
 
-    // Same minute, new second: only the clock with seconds changes.
-    now = QTime(13, 7, 50);
-    if (seconds) {
-        QTRY_COMPARE(int(changes.count()), 1);
-        QCOMPARE(changes.at(0).at(0).value<QObject *>(), &clock);
-        QCOMPARE(clock.Caption(), QStringLiteral("13:07:50"));
-    } else {
-        QTest::qWait(60);
-        QCOMPARE(int(changes.count()), 0);
+    void clockTicks()
+    {
+        QFETCH(bool, seconds);
+        QTime now(13, 7, 45);
+        TClockWork::SetDefaultSource([&now] { return now; });
+        TqSegmentClock clock;
         QCOMPARE(clock.Caption(), QStringLiteral("13:07:45"));
-    }
-
-    // New minute, same second: only the clock without seconds changes.
-    now = QTime(13, 8, 50);
-    if (seconds) {
+        clock.SetSek(seconds);
+        QSignalSpy changes(&clock, &TqSegmentClock::OnTimeChange);
+        clock.Timer()->SetInterval(5);
         QTest::qWait(60);
-        QCOMPARE(clock.Caption(), QStringLiteral("13:07:50"));
-    } else {
-        QTRY_COMPARE(clock.Caption(), QStringLiteral("13:08:50"));
+        QCOMPARE(int(changes.count()), 0);   // nothing new yet
+
+        // Same minute, new second: only the clock with seconds changes.
+        now = QTime(13, 7, 50);
+        if (seconds) {
+            QTRY_COMPARE(int(changes.count()), 1);
+            QCOMPARE(changes.at(0).at(0).value<QObject *>(), &clock);
+            QCOMPARE(clock.Caption(), QStringLiteral("13:07:50"));
+        } else {
+            QTest::qWait(60);
+            QCOMPARE(int(changes.count()), 0);
+            QCOMPARE(clock.Caption(), QStringLiteral("13:07:45"));
+        }
+
+        // New minute, same second: only the clock without seconds changes.
+        now = QTime(13, 8, 50);
+        if (seconds) {
+            QTest::qWait(60);
+            QCOMPARE(clock.Caption(), QStringLiteral("13:07:50"));
+        } else {
+            QTRY_COMPARE(clock.Caption(), QStringLiteral("13:08:50"));
+        }
+        QCOMPARE(int(changes.count()), 1);
     }
-    QCOMPARE(int(changes.count()), 1);
-}
 
-void tst_QSegLabel::clockDisplay_data()
-{
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<bool>("seconds");
-    QTest::addColumn<QStringList>("shown");
-    const QLocale uk(QLocale::English, QLocale::UnitedKingdom), us(QLocale::English, QLocale::UnitedStates);
-    QTest::newRow("24 hours, minutes") << uk << false << QStringList{"0", "9:", "0", "5"};
-    QTest::newRow("24 hours, seconds") << uk << true << QStringList{"0", "9:", "0", "5:", "0", "0"};
-    // Without a leading zero the digits shift left.
-    QTest::newRow("12 hours, minutes") << us << false << QStringList{"9:", "0", "5:", "0"};
-}
+    void clockDisplay_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<bool>("seconds");
+        QTest::addColumn<QStringList>("shown");
+        const QLocale uk(QLocale::English, QLocale::UnitedKingdom), us(QLocale::English, QLocale::UnitedStates);
+        QTest::newRow("24 hours, minutes") << uk << false << QStringList{"0", "9:", "0", "5"};
+        QTest::newRow("24 hours, seconds") << uk << true << QStringList{"0", "9:", "0", "5:", "0", "0"};
+        // Without a leading zero the digits shift left.
+        QTest::newRow("12 hours, minutes") << us << false << QStringList{"9:", "0", "5:", "0"};
+    }
 
-void tst_QSegLabel::clockDisplay()
-{
-    QFETCH(QLocale, locale);
-    QFETCH(bool, seconds);
-    QFETCH(QStringList, shown);
-    QLocale::setDefault(locale);
-    TClockWork::SetDefaultSource([] { return QTime(9, 5, 0); });
-    TqSegmentClock clock;
-    clock.SetSek(seconds);   // rebuilt at once with the stored caption
-    QCOMPARE(cells(clock), shown);
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-}
+    void clockDisplay()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(bool, seconds);
+        QFETCH(QStringList, shown);
+        QLocale::setDefault(locale);
+        TClockWork::SetDefaultSource([] { return QTime(9, 5, 0); });
+        TqSegmentClock clock;
+        clock.SetSek(seconds);   // rebuilt at once with the stored caption
+        QCOMPARE(cells(clock), shown);
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    }
+};
 
 QTEST_MAIN(tst_QSegLabel)
 #include "tst_qseglabel.moc"

@@ -61,253 +61,240 @@ class tst_QSegment : public QObject
 {
     Q_OBJECT
 private slots:
-    void newCellShowsTheDarkPattern();
-    void digitEightLightsItsElements();
-    void punkturAndCharInterplay();
-    void widthAndHeightPickTheSize_data();
-    void widthAndHeightPickTheSize();
-    void sameWidthDoesNothing();
-    void sizeWrapsInEightBits();
-    void changeACharLook();
-    void transparentShowsTheParent();
-    void onPaintComesLastAndCanDraw();
-    void unchangedValuesDoNotRepaint();
-    void sharedPicturesFollowColoursAndPalette();
-};
-
-void tst_QSegment::newCellShowsTheDarkPattern()
-{
-    TqSegment seg;
-    const QImage img = seg.RenderImage(qRgb(255, 0, 255));
-    QCOMPARE(img.size(), QSize(19, 29));
-    QCOMPARE(img.pixel(0, 0), qRgb(0, 0, 0));
-    QCOMPARE(img.pixel(18, 0), qRgb(0, 0, 0));
-    QCOMPARE(img.pixel(0, 28), qRgb(0, 0, 0));
-    QCOMPARE(litElements(seg), QList<int>());
-    // Every element shows, in the unlit colour, and only those two colours appear.
-    int dark = 0;
-    for (int y = 0; y < img.height(); ++y)
-        for (int x = 0; x < img.width(); ++x) {
-            const QRgb p = img.pixel(x, y);
-            QVERIFY(p == qRgb(0, 0, 0) || p == qRgb(0, 0x20, 0));
-            dark += p == qRgb(0, 0x20, 0);
-        }
-    QVERIFY(dark > 60);
-}
-
-void tst_QSegment::digitEightLightsItsElements()
-{
-    for (int size : {1, 3}) {
+    void newCellShowsTheDarkPattern()
+    {
         TqSegment seg;
-        seg.SetSize(qSegSize(size));
-        seg.SetChar('8');
-        QCOMPARE(litElements(seg), (QList<int>{1, 2, 4, 5, 6, 7, 9, 10}));
+        const QImage img = seg.RenderImage(qRgb(255, 0, 255));
+        QCOMPARE(img.size(), QSize(19, 29));
+        QCOMPARE(img.pixel(0, 0), qRgb(0, 0, 0));
+        QCOMPARE(img.pixel(18, 0), qRgb(0, 0, 0));
+        QCOMPARE(img.pixel(0, 28), qRgb(0, 0, 0));
+        QCOMPARE(litElements(seg), QList<int>());
+        // Every element shows, in the unlit colour, and only those two colours appear.
+        int dark = 0;
+        for (int y = 0; y < img.height(); ++y)
+            for (int x = 0; x < img.width(); ++x) {
+                const QRgb p = img.pixel(x, y);
+                QVERIFY(p == qRgb(0, 0, 0) || p == qRgb(0, 0x20, 0));
+                dark += p == qRgb(0, 0x20, 0);
+            }
+        QVERIFY(dark > 60);
     }
-}
 
-void tst_QSegment::punkturAndCharInterplay()
-{
-    TqSegment seg;
-    seg.SetPunktur(spPunktum);
-    QCOMPARE(elementsOf(seg.Look()), QList<int>{16});
-    // Char replaces the look whole: the point goes, Punktur stays.
-    seg.SetChar('3');
-    QCOMPARE(seg.Punktur(), spPunktum);
-    QVERIFY(!(seg.Look() & SegLook({16})));
-    QCOMPARE(litElements(seg), (QList<int>{1, 4, 5, 6, 9, 10}));
-    // Setting the same Punktur again does nothing...
-    seg.SetPunktur(spPunktum);
-    QVERIFY(!(seg.Look() & SegLook({16})));
-    // ...a change away and back lights it again.
-    seg.SetPunktur(spNone);
-    seg.SetPunktur(spPunktum);
-    QCOMPARE(litElements(seg), (QList<int>{1, 4, 5, 6, 9, 10, 16}));
+    void digitEightLightsItsElements()
+    {
+        for (int size : {1, 3}) {
+            TqSegment seg;
+            seg.SetSize(qSegSize(size));
+            seg.SetChar('8');
+            QCOMPARE(litElements(seg), (QList<int>{1, 2, 4, 5, 6, 7, 9, 10}));
+        }
+    }
 
-    seg.SetPunktur(spColon);
-    QCOMPARE(elementsOf(seg.Look() & SegLook({15, 16})), (QList<int>{15, 16}));
-    seg.SetPunktur(spPunktum);
-    QCOMPARE(elementsOf(seg.Look() & SegLook({15, 16})), QList<int>{16});
-    seg.SetPunktur(spNone);
-    QCOMPARE(seg.Look() & SegLook({15, 16}), TSegLook(0));
+    void punkturAndCharInterplay()
+    {
+        TqSegment seg;
+        seg.SetPunktur(spPunktum);
+        QCOMPARE(elementsOf(seg.Look()), QList<int>{16});
+        // Char replaces the look whole: the point goes, Punktur stays.
+        seg.SetChar('3');
+        QCOMPARE(seg.Punktur(), spPunktum);
+        QVERIFY(!(seg.Look() & SegLook({16})));
+        QCOMPARE(litElements(seg), (QList<int>{1, 4, 5, 6, 9, 10}));
+        // Setting the same Punktur again does nothing...
+        seg.SetPunktur(spPunktum);
+        QVERIFY(!(seg.Look() & SegLook({16})));
+        // ...a change away and back lights it again.
+        seg.SetPunktur(spNone);
+        seg.SetPunktur(spPunktum);
+        QCOMPARE(litElements(seg), (QList<int>{1, 4, 5, 6, 9, 10, 16}));
 
-    // A character's own dots show while Punktur says nothing.
-    seg.SetChar(':');
-    QCOMPARE(seg.Punktur(), spNone);
-    QCOMPARE(elementsOf(seg.Look()), (QList<int>{15, 16}));
-}
+        seg.SetPunktur(spColon);
+        QCOMPARE(elementsOf(seg.Look() & SegLook({15, 16})), (QList<int>{15, 16}));
+        seg.SetPunktur(spPunktum);
+        QCOMPARE(elementsOf(seg.Look() & SegLook({15, 16})), QList<int>{16});
+        seg.SetPunktur(spNone);
+        QCOMPARE(seg.Look() & SegLook({15, 16}), TSegLook(0));
 
-void tst_QSegment::widthAndHeightPickTheSize_data()
-{
-    QTest::addColumn<bool>("width");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("size");
-    QTest::newRow("width 100") << true << 100 << 5;
-    QTest::newRow("width 0") << true << 0 << 1;
-    QTest::newRow("width -50") << true << -50 << 1;
-    QTest::newRow("width 38") << true << 38 << 2;
-    QTest::newRow("height 60") << false << 60 << 2;
-    QTest::newRow("height 435") << false << 435 << 15;
-    QTest::newRow("beyond 15") << true << 19 * 20 << 20;
-}
+        // A character's own dots show while Punktur says nothing.
+        seg.SetChar(':');
+        QCOMPARE(seg.Punktur(), spNone);
+        QCOMPARE(elementsOf(seg.Look()), (QList<int>{15, 16}));
+    }
 
-void tst_QSegment::widthAndHeightPickTheSize()
-{
-    QFETCH(bool, width);
-    QFETCH(int, value);
-    QFETCH(int, size);
-    TqSegment seg;
-    if (width)
-        seg.SetWidth(value);
-    else
-        seg.SetHeight(value);
-    QCOMPARE(int(seg.Size()), size);
-    QCOMPARE(seg.width(), 19 * size);
-    QCOMPARE(seg.height(), 29 * size);
-}
+    void widthAndHeightPickTheSize_data()
+    {
+        QTest::addColumn<bool>("width");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<int>("size");
+        QTest::newRow("width 100") << true << 100 << 5;
+        QTest::newRow("width 0") << true << 0 << 1;
+        QTest::newRow("width -50") << true << -50 << 1;
+        QTest::newRow("width 38") << true << 38 << 2;
+        QTest::newRow("height 60") << false << 60 << 2;
+        QTest::newRow("height 435") << false << 435 << 15;
+        QTest::newRow("beyond 15") << true << 19 * 20 << 20;
+    }
 
-void tst_QSegment::sameWidthDoesNothing()
-{
-    TqSegment seg;
-    seg.resize(50, 40);   // from outside, as a layout would
-    seg.SetWidth(50);
-    QCOMPARE(seg.Size(), qSegSize(1));
-    QCOMPARE(seg.width(), 50);
-    // The next setter that runs restores the computed extent.
-    seg.SetLitColor(clRed);
-    QCOMPARE(seg.size(), QSize(19, 29));
-}
+    void widthAndHeightPickTheSize()
+    {
+        QFETCH(bool, width);
+        QFETCH(int, value);
+        QFETCH(int, size);
+        TqSegment seg;
+        if (width)
+            seg.SetWidth(value);
+        else
+            seg.SetHeight(value);
+        QCOMPARE(int(seg.Size()), size);
+        QCOMPARE(seg.width(), 19 * size);
+        QCOMPARE(seg.height(), 29 * size);
+    }
 
-void tst_QSegment::sizeWrapsInEightBits()
-{
-    TqSegment seg;
-    seg.SetWidth(19 * 256);
-    QCOMPARE(seg.Size(), qSegSize(0));
-    QCOMPARE(seg.size(), QSize(0, 0));
-    seg.SetWidth(19 * 257);
-    QCOMPARE(seg.Size(), qSegSize(1));
-    seg.SetSize(0);
-    QCOMPARE(seg.size(), QSize(0, 0));
-    QVERIFY(!seg.RenderImage().isNull());   // painting a collapsed cell is harmless
-}
+    void sameWidthDoesNothing()
+    {
+        TqSegment seg;
+        seg.resize(50, 40);   // from outside, as a layout would
+        seg.SetWidth(50);
+        QCOMPARE(seg.Size(), qSegSize(1));
+        QCOMPARE(seg.width(), 50);
+        // The next setter that runs restores the computed extent.
+        seg.SetLitColor(clRed);
+        QCOMPARE(seg.size(), QSize(19, 29));
+    }
 
-void tst_QSegment::changeACharLook()
-{
-    const TSegLook original = CharLook('A');
-    TqSegment seg;
-    seg.SetChar('A');
-    const QImage before = seg.RenderImage();
-    ChangeACharLook('A', SegLook({1, 10}));
-    QCOMPARE(CharLook('A'), SegLook({1, 10}));
-    QCOMPARE(seg.RenderImage(), before);   // the cell keeps its look
-    seg.SetChar('A');                      // unchanged: ignored
-    QCOMPARE(seg.RenderImage(), before);
-    seg.SetChar('B');
-    seg.SetChar('A');
-    QCOMPARE(litElements(seg), (QList<int>{1, 10}));
-    // Codes below 32 have no entry to change and light nothing.
-    ChangeACharLook(5, SegLook({1}));
-    QCOMPARE(CharLook(5), TSegLook(0));
-    seg.SetChar(qChar(5));
-    QCOMPARE(seg.Look(), TSegLook(0));
-    ChangeACharLook('A', original);
-}
+    void sizeWrapsInEightBits()
+    {
+        TqSegment seg;
+        seg.SetWidth(19 * 256);
+        QCOMPARE(seg.Size(), qSegSize(0));
+        QCOMPARE(seg.size(), QSize(0, 0));
+        seg.SetWidth(19 * 257);
+        QCOMPARE(seg.Size(), qSegSize(1));
+        seg.SetSize(0);
+        QCOMPARE(seg.size(), QSize(0, 0));
+        QVERIFY(!seg.RenderImage().isNull());   // painting a collapsed cell is harmless
+    }
 
-void tst_QSegment::transparentShowsTheParent()
-{
-    QWidget parent;
-    parent.resize(40, 40);
-    parent.setAutoFillBackground(true);
-    QPalette pal;
-    pal.setColor(QPalette::Window, Qt::red);
-    parent.setPalette(pal);
-    auto *seg = new TqSegment(&parent);
-    seg->SetChar('1');
-    QCOMPARE(QColor(parent.grab().toImage().pixel(0, 0)), QColor(Qt::black));
-    seg->SetTransparent(true);
-    QVERIFY(!seg->testAttribute(Qt::WA_OpaquePaintEvent));
-    const QImage shot = parent.grab().toImage();
-    QCOMPARE(QColor(shot.pixel(0, 0)), QColor(Qt::red));
-    QCOMPARE(QColor(shot.pixel(1, 20)), QColor(Qt::red));
-    const QPoint lit = samplePoint(4, 1), dark = samplePoint(1, 1);
-    QCOMPARE(shot.pixel(lit), qRgb(0, 255, 0));
-    QCOMPARE(shot.pixel(dark), qRgb(0, 0x20, 0));
-    // The cell's own picture leaves the background untouched.
-    QCOMPARE(seg->RenderImage(qRgb(1, 2, 3)).pixel(0, 0), qRgb(1, 2, 3));
-}
+    void changeACharLook()
+    {
+        const TSegLook original = CharLook('A');
+        TqSegment seg;
+        seg.SetChar('A');
+        const QImage before = seg.RenderImage();
+        ChangeACharLook('A', SegLook({1, 10}));
+        QCOMPARE(CharLook('A'), SegLook({1, 10}));
+        QCOMPARE(seg.RenderImage(), before);   // the cell keeps its look
+        seg.SetChar('A');                      // unchanged: ignored
+        QCOMPARE(seg.RenderImage(), before);
+        seg.SetChar('B');
+        seg.SetChar('A');
+        QCOMPARE(litElements(seg), (QList<int>{1, 10}));
+        // Codes below 32 have no entry to change and light nothing.
+        ChangeACharLook(5, SegLook({1}));
+        QCOMPARE(CharLook(5), TSegLook(0));
+        seg.SetChar(qChar(5));
+        QCOMPARE(seg.Look(), TSegLook(0));
+        ChangeACharLook('A', original);
+    }
 
-void tst_QSegment::onPaintComesLastAndCanDraw()
-{
-    TqSegment seg;
-    seg.SetChar('8');
-    int calls = 0;
-    connect(&seg, &TqSegment::OnPaint, this, [&](QObject *sender) {
-        ++calls;
-        QCOMPARE(sender, &seg);
-        QVERIFY(seg.Canvas());
-        seg.Canvas()->SetPixels(9, 3, clRed);   // over the lit top bar
-    });
-    const QImage img = seg.RenderImage();
-    QCOMPARE(calls, 1);
-    QCOMPARE(img.pixel(9, 3), qRgb(255, 0, 0));
-    QVERIFY(!seg.Canvas());
-}
+    void transparentShowsTheParent()
+    {
+        QWidget parent;
+        parent.resize(40, 40);
+        parent.setAutoFillBackground(true);
+        QPalette pal;
+        pal.setColor(QPalette::Window, Qt::red);
+        parent.setPalette(pal);
+        auto *seg = new TqSegment(&parent);
+        seg->SetChar('1');
+        QCOMPARE(QColor(parent.grab().toImage().pixel(0, 0)), QColor(Qt::black));
+        seg->SetTransparent(true);
+        QVERIFY(!seg->testAttribute(Qt::WA_OpaquePaintEvent));
+        const QImage shot = parent.grab().toImage();
+        QCOMPARE(QColor(shot.pixel(0, 0)), QColor(Qt::red));
+        QCOMPARE(QColor(shot.pixel(1, 20)), QColor(Qt::red));
+        const QPoint lit = samplePoint(4, 1), dark = samplePoint(1, 1);
+        QCOMPARE(shot.pixel(lit), qRgb(0, 255, 0));
+        QCOMPARE(shot.pixel(dark), qRgb(0, 0x20, 0));
+        // The cell's own picture leaves the background untouched.
+        QCOMPARE(seg->RenderImage(qRgb(1, 2, 3)).pixel(0, 0), qRgb(1, 2, 3));
+    }
 
-void tst_QSegment::unchangedValuesDoNotRepaint()
-{
-    CountingSegment seg;
-    seg.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&seg));
-    QTRY_VERIFY(seg.paints > 0);
-    QCoreApplication::processEvents();
-    seg.paints = 0;
-    seg.SetChar(' ');
-    seg.SetLitColor(clLime);
-    seg.SetUnLitColor(0x002000);
-    seg.SetPunktur(spNone);
-    seg.SetSize(1);
-    seg.SetTransparent(false);
-    seg.SetWidth(19);
-    QCoreApplication::processEvents();
-    QCOMPARE(seg.paints, 0);
-    // Several changes before the event loop runs make one repaint.
-    seg.SetChar('5');
-    seg.SetLitColor(clRed);
-    QTRY_COMPARE(seg.paints, 1);
-    QCoreApplication::processEvents();
-    QCOMPARE(seg.paints, 1);
-}
+    void onPaintComesLastAndCanDraw()
+    {
+        TqSegment seg;
+        seg.SetChar('8');
+        int calls = 0;
+        connect(&seg, &TqSegment::OnPaint, this, [&](QObject *sender) {
+            ++calls;
+            QCOMPARE(sender, &seg);
+            QVERIFY(seg.Canvas());
+            seg.Canvas()->SetPixels(9, 3, clRed);   // over the lit top bar
+        });
+        const QImage img = seg.RenderImage();
+        QCOMPARE(calls, 1);
+        QCOMPARE(img.pixel(9, 3), qRgb(255, 0, 0));
+        QVERIFY(!seg.Canvas());
+    }
 
-// Cells that look alike share one picture; a colour of their own, or a
-// system colour after a palette change, makes another.
-void tst_QSegment::sharedPicturesFollowColoursAndPalette()
-{
-    TqSegment a, b;
-    a.SetChar('8');
-    b.SetChar('8');
-    const QImage first = a.RenderImage();
-    QCOMPARE(b.RenderImage(), first);
-    QPoint lit(-1, -1);
-    for (int y = 0; y < first.height() && lit.x() < 0; ++y)
-        for (int x = 0; x < first.width() && lit.x() < 0; ++x)
-            if (first.pixel(x, y) == qRgb(0, 255, 0))
-                lit = QPoint(x, y);
-    QVERIFY(lit.x() >= 0);
-    b.SetLitColor(clRed);
-    QCOMPARE(b.RenderImage().pixel(lit), qRgb(255, 0, 0));
-    QCOMPARE(a.RenderImage().pixel(lit), qRgb(0, 255, 0));
-    a.SetColor(clBtnFace);
-    const QPalette before = QGuiApplication::palette();
-    QCOMPARE(a.RenderImage().pixel(0, 0), before.color(QPalette::Button).rgb());
-    // The same look after a palette change: a new picture in the new colour.
-    QPalette other = before;
-    other.setColor(QPalette::Button, QColor(10, 20, 30));
-    QApplication::setPalette(other);
-    TqSegment c;
-    c.SetChar('8');
-    c.SetColor(clBtnFace);
-    QCOMPARE(c.RenderImage().pixel(0, 0), qRgb(10, 20, 30));
-    QApplication::setPalette(before);
-}
+    void unchangedValuesDoNotRepaint()
+    {
+        CountingSegment seg;
+        seg.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&seg));
+        QTRY_VERIFY(seg.paints > 0);
+        QCoreApplication::processEvents();
+        seg.paints = 0;
+        seg.SetChar(' ');
+        seg.SetLitColor(clLime);
+        seg.SetUnLitColor(0x002000);
+        seg.SetPunktur(spNone);
+        seg.SetSize(1);
+        seg.SetTransparent(false);
+        seg.SetWidth(19);
+        QCoreApplication::processEvents();
+        QCOMPARE(seg.paints, 0);
+        // Several changes before the event loop runs make one repaint.
+        seg.SetChar('5');
+        seg.SetLitColor(clRed);
+        QTRY_COMPARE(seg.paints, 1);
+        QCoreApplication::processEvents();
+        QCOMPARE(seg.paints, 1);
+    }
+
+    // Cells that look alike share one picture; a colour of their own, or a
+    // system colour after a palette change, makes another.
+    void sharedPicturesFollowColoursAndPalette()
+    {
+        TqSegment a, b;
+        a.SetChar('8');
+        b.SetChar('8');
+        const QImage first = a.RenderImage();
+        QCOMPARE(b.RenderImage(), first);
+        QPoint lit(-1, -1);
+        for (int y = 0; y < first.height() && lit.x() < 0; ++y)
+            for (int x = 0; x < first.width() && lit.x() < 0; ++x)
+                if (first.pixel(x, y) == qRgb(0, 255, 0))
+                    lit = QPoint(x, y);
+        QVERIFY(lit.x() >= 0);
+        b.SetLitColor(clRed);
+        QCOMPARE(b.RenderImage().pixel(lit), qRgb(255, 0, 0));
+        QCOMPARE(a.RenderImage().pixel(lit), qRgb(0, 255, 0));
+        a.SetColor(clBtnFace);
+        const QPalette before = QGuiApplication::palette();
+        QCOMPARE(a.RenderImage().pixel(0, 0), before.color(QPalette::Button).rgb());
+        // The same look after a palette change: a new picture in the new colour.
+        QPalette other = before;
+        other.setColor(QPalette::Button, QColor(10, 20, 30));
+        QApplication::setPalette(other);
+        TqSegment c;
+        c.SetChar('8');
+        c.SetColor(clBtnFace);
+        QCOMPARE(c.RenderImage().pixel(0, 0), qRgb(10, 20, 30));
+        QApplication::setPalette(before);
+    }
+};
 
 QTEST_MAIN(tst_QSegment)
 #include "tst_qsegment.moc"

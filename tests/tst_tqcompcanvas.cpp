@@ -44,57 +44,53 @@ class tst_TqCompCanvas : public QObject
 {
     Q_OBJECT
 private slots:
-    void misuses();
-    void drawingShowsUntilTheControlPaints();
-    void controlByNameAndGone();
+    void misuses()
+    {
+        Panel panel;
+        TqCompCanvas canvas(&panel.form);
+        QCOMPARE(messageOf([&] { canvas.EndPaint(); }), QByteArray("We are not drawing"));
+        QCOMPARE(messageOf([&] { canvas.StartPaint(); }), QByteArray("No component to draw on"));
+        canvas.SetControl(panel.control);
+        canvas.StartPaint();
+        QCOMPARE(messageOf([&] { canvas.StartPaint(); }), QByteArray("We are allready drawing"));
+        QVERIFY(canvas.Drawing());   // the misuse changed nothing
+        canvas.EndPaint();
+    }
+
+    void drawingShowsUntilTheControlPaints()
+    {
+        Panel panel;
+        TqCompCanvas canvas(&panel.form);
+        canvas.SetControl(panel.control);
+        canvas.StartPaint();
+        TCanvas *c = canvas.Canvas();
+        c->Pen.SetColor(clLime);
+        c->Brush.SetColor(clRed);
+        c->FillRect(Rect(0, 0, 10, 10));
+        QTRY_COMPARE(panel.at(15, 15), qRgb(255, 0, 0));   // over the control, at once
+        QCOMPARE(panel.at(40, 30), qRgb(255, 255, 255));    // the rest shows the control
+        canvas.EndPaint();
+        QVERIFY(canvas.Canvas()->ClipRect().Right == 0);   // a fresh canvas, on nothing yet
+        QCOMPARE(canvas.Canvas()->Pen.Color(), TColor(clBlack));   // keeping nothing of the last
+        QTest::qWait(50);
+        QCOMPARE(panel.at(15, 15), qRgb(255, 0, 0));       // still there after the session
+        panel.control->update();                            // until the control paints itself
+        QTRY_COMPARE(panel.at(15, 15), qRgb(255, 255, 255));
+    }
+
+    void controlByNameAndGone()
+    {
+        Panel panel;
+        TqCompCanvas canvas(&panel.form);
+        canvas.SetControlComponent(QStringLiteral("dial"));
+        QCOMPARE(canvas.Control(), panel.control);
+        canvas.StartPaint();
+        delete panel.control;
+        QVERIFY(!canvas.Drawing());
+        QVERIFY(!canvas.Control());
+        QVERIFY(canvas.ControlComponent().isEmpty());
+    }
 };
-
-void tst_TqCompCanvas::misuses()
-{
-    Panel panel;
-    TqCompCanvas canvas(&panel.form);
-    QCOMPARE(messageOf([&] { canvas.EndPaint(); }), QByteArray("We are not drawing"));
-    QCOMPARE(messageOf([&] { canvas.StartPaint(); }), QByteArray("No component to draw on"));
-    canvas.SetControl(panel.control);
-    canvas.StartPaint();
-    QCOMPARE(messageOf([&] { canvas.StartPaint(); }), QByteArray("We are allready drawing"));
-    QVERIFY(canvas.Drawing());   // the misuse changed nothing
-    canvas.EndPaint();
-}
-
-void tst_TqCompCanvas::drawingShowsUntilTheControlPaints()
-{
-    Panel panel;
-    TqCompCanvas canvas(&panel.form);
-    canvas.SetControl(panel.control);
-    canvas.StartPaint();
-    TCanvas *c = canvas.Canvas();
-    c->Pen.SetColor(clLime);
-    c->Brush.SetColor(clRed);
-    c->FillRect(Rect(0, 0, 10, 10));
-    QTRY_COMPARE(panel.at(15, 15), qRgb(255, 0, 0));   // over the control, at once
-    QCOMPARE(panel.at(40, 30), qRgb(255, 255, 255));    // the rest shows the control
-    canvas.EndPaint();
-    QVERIFY(canvas.Canvas()->ClipRect().Right == 0);   // a fresh canvas, on nothing yet
-    QCOMPARE(canvas.Canvas()->Pen.Color(), TColor(clBlack));   // keeping nothing of the last
-    QTest::qWait(50);
-    QCOMPARE(panel.at(15, 15), qRgb(255, 0, 0));       // still there after the session
-    panel.control->update();                            // until the control paints itself
-    QTRY_COMPARE(panel.at(15, 15), qRgb(255, 255, 255));
-}
-
-void tst_TqCompCanvas::controlByNameAndGone()
-{
-    Panel panel;
-    TqCompCanvas canvas(&panel.form);
-    canvas.SetControlComponent(QStringLiteral("dial"));
-    QCOMPARE(canvas.Control(), panel.control);
-    canvas.StartPaint();
-    delete panel.control;
-    QVERIFY(!canvas.Drawing());
-    QVERIFY(!canvas.Control());
-    QVERIFY(canvas.ControlComponent().isEmpty());
-}
 
 QTEST_MAIN(tst_TqCompCanvas)
 #include "tst_tqcompcanvas.moc"

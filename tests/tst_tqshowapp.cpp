@@ -41,149 +41,141 @@ class tst_TqShowApp : public QObject
 {
     Q_OBJECT
 private slots:
-    void factsAsTheSystemSaysThem();
-    void shortDateRules();
-    void loadedAloneHasNoForm();
-    void applicationEventsAndSettings();
-    void endOfSessionAskedOfTheMainForm();
-    void secondStartHandsOverAndEnds();
-    void secondStartMayLeaveTheFirstAlone();
+    void factsAsTheSystemSaysThem()
+    {
+        TqShowApp info;
+        QCOMPARE(info.WindowsString(), runTool("uname", {"-s"}) + QLatin1Char(' ') + runTool("uname", {"-r"}));
+        QCOMPARE(info.ComputerName(), runTool("hostname"));
+        QCOMPARE(info.UserName(), runTool("id", {"-un"}));
+        QCOMPARE(info.EnvironmentLines(), QProcess::systemEnvironment());
+        if (runTool("uname", {"-m"}) == QLatin1String("x86_64")) {
+            QCOMPARE(info.CPUType(), 8);
+            QCOMPARE(info.CPUString(), QStringLiteral("P8"));
+        }
+        QCOMPARE(info.IPHostName(), QStringLiteral("-Unknown-"));   // until asked for
+        info.SetEnabledHostInfo(true);
+        QVERIFY(info.IPHostName() == runTool("hostname") || info.IPHostName() == QStringLiteral("-none-"));
+        // Settings live on the application object, not in the component.
+        info.SetTitle(QStringLiteral("Bench rig"));
+        info.SetHelpFile(QStringLiteral("rig.qch"));
+        TqShowApp other;
+        QCOMPARE(other.Title(), QStringLiteral("Bench rig"));
+        QCOMPARE(other.HelpFile(), QStringLiteral("rig.qch"));
+    }
+
+    void shortDateRules()
+    {
+        SetShortDateFormat(QStringLiteral("d/M/yy"));
+        TqShowApp info;   // remembers d/M/yy
+        info.SetShortDate(TqShowApp::sdf4DigitYear);
+        QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yyyy"));
+        info.SetShortDate(TqShowApp::sdf2DigitYear);
+        QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yy"));
+        SetShortDateFormat(QStringLiteral("yyyy.MM.dd"));   // changed by other code meanwhile
+        info.SetShortDate(TqShowApp::sdf2DigitYear);
+        QCOMPARE(ShortDateFormat(), QStringLiteral("yy.MM.dd"));
+        info.SetShortDate(TqShowApp::sdfDontTouch);
+        QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yy"));
+    }
+
+    void loadedAloneHasNoForm()
+    {
+        TqShowApp info;
+        info.QueueLoaded();
+        QVERIFY_THROWS_EXCEPTION(EComponentError, info.FinishLoading());
+    }
+
+    void applicationEventsAndSettings()
+    {
+        TqShowApp info;
+        EventLog log;
+        log.watch(&info, &TqShowApp::OnHint, "hint");
+        Application()->SetHint(QStringLiteral("Trigger level"));
+        Application()->SetHint(QStringLiteral("Trigger level"));   // no change, no event
+        QCOMPARE(log.names, QStringList{"hint"});
+        info.SetHintPause(120);
+        QCOMPARE(Application()->HintPause(), 120);
+        // Designing a form leaves the designer's own application alone.
+        std::unique_ptr<TqShowApp> designed;
+        {
+            DesignTimeCreation designing;
+            designed = std::make_unique<TqShowApp>();
+        }
+        designed->SetTitle(QStringLiteral("Designed"));
+        designed->SetHintPause(900);
+        QCOMPARE(designed->Title(), QStringLiteral("Designed"));
+        QCOMPARE(designed->HintPause(), 900);
+        QVERIFY(Application()->Title() != QLatin1String("Designed"));
+        QCOMPARE(Application()->HintPause(), 120);
+    }
+
+    void endOfSessionAskedOfTheMainForm()
+    {
+        QWidget form, dialog;
+        auto *info = new TqShowApp(&form);
+        auto *other = new TqShowApp(&dialog);
+        for (TqShowApp *c : {info, other}) {
+            c->QueueLoaded();
+            c->FinishLoading();
+        }
+        Application()->SetMainForm(&form);
+        QStringList seen;
+        bool allow = false;
+        connect(info, &TqShowApp::OnAskEndSession, info, [&](bool &doEnd) { seen << "ask"; doEnd = allow; });
+        connect(info, &TqShowApp::OnEndSession, info, [&] { seen << "end"; });
+        connect(other, &TqShowApp::OnAskEndSession, other, [&](bool &doEnd) { seen << "other"; doEnd = false; });
+        QVERIFY(!Application()->QueryEndSession());
+        allow = true;
+        QVERIFY(Application()->QueryEndSession());
+        TEndSessionEvent ending;
+        QCoreApplication::sendEvent(&form, &ending);
+        // Only the main form's component is asked.
+        TQueryEndSessionEvent query;
+        QCoreApplication::sendEvent(&dialog, &query);
+        QVERIFY(query.DoEnd);
+        QCOMPARE(seen, (QStringList{"ask", "ask", "end"}));
+    }
+
+    void secondStartHandsOverAndEnds()
+    {
+        Probe first;
+        QCOMPARE(first.line(), QStringLiteral("first"));
+        for (int i = 0; i < 5; ++i) {
+            Probe second;
+            QCOMPARE(second.line(), QStringLiteral("second"));
+            QVERIFY(second.process.waitForFinished(10000));   // it ends by itself
+            QCOMPARE(first.line(), QStringLiteral("another"));   // once for each
+        }
+        // Started in pairs, exactly one of each pair survives: the other ends
+        // by itself.
+        first.process.kill();
+        first.process.waitForFinished(5000);
+        for (int i = 0; i < 100; ++i) {
+            Probe a, b;
+            const QString saidA = a.line(), saidB = b.line();
+            QCOMPARE(QStringList({saidA, saidB}).count(QStringLiteral("first")), 1);
+            Probe &survivor = saidA == QLatin1String("first") ? a : b, &other = &survivor == &a ? b : a;
+            QVERIFY(other.process.waitForFinished(10000));
+            QCOMPARE(survivor.process.state(), QProcess::Running);
+        }
+    }
+
+    void secondStartMayLeaveTheFirstAlone()
+    {
+        Probe first;
+        QCOMPARE(first.line(), QStringLiteral("first"));
+        {
+            Probe second({QStringLiteral("nobring")});
+            QCOMPARE(second.line(), QStringLiteral("second"));
+            QVERIFY(second.process.waitForFinished(10000));
+        }
+        // A later start that does hand over is heard; the one before was not.
+        Probe third;
+        QCOMPARE(third.line(), QStringLiteral("second"));
+        QCOMPARE(first.line(), QStringLiteral("another"));
+        QVERIFY(!first.process.canReadLine());
+    }
 };
-
-void tst_TqShowApp::factsAsTheSystemSaysThem()
-{
-    TqShowApp info;
-    QCOMPARE(info.WindowsString(), runTool("uname", {"-s"}) + QLatin1Char(' ') + runTool("uname", {"-r"}));
-    QCOMPARE(info.ComputerName(), runTool("hostname"));
-    QCOMPARE(info.UserName(), runTool("id", {"-un"}));
-    QCOMPARE(info.EnvironmentLines(), QProcess::systemEnvironment());
-    if (runTool("uname", {"-m"}) == QLatin1String("x86_64")) {
-        QCOMPARE(info.CPUType(), 8);
-        QCOMPARE(info.CPUString(), QStringLiteral("P8"));
-    }
-    QCOMPARE(info.IPHostName(), QStringLiteral("-Unknown-"));   // until asked for
-    info.SetEnabledHostInfo(true);
-    QVERIFY(info.IPHostName() == runTool("hostname") || info.IPHostName() == QStringLiteral("-none-"));
-    // Settings live on the application object, not in the component.
-    info.SetTitle(QStringLiteral("Bench rig"));
-    info.SetHelpFile(QStringLiteral("rig.qch"));
-    TqShowApp other;
-    QCOMPARE(other.Title(), QStringLiteral("Bench rig"));
-    QCOMPARE(other.HelpFile(), QStringLiteral("rig.qch"));
-}
-
-void tst_TqShowApp::shortDateRules()
-{
-    SetShortDateFormat(QStringLiteral("d/M/yy"));
-    TqShowApp info;   // remembers d/M/yy
-    info.SetShortDate(TqShowApp::sdf4DigitYear);
-    QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yyyy"));
-    info.SetShortDate(TqShowApp::sdf2DigitYear);
-    QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yy"));
-    SetShortDateFormat(QStringLiteral("yyyy.MM.dd"));   // changed by other code meanwhile
-    info.SetShortDate(TqShowApp::sdf2DigitYear);
-    QCOMPARE(ShortDateFormat(), QStringLiteral("yy.MM.dd"));
-    info.SetShortDate(TqShowApp::sdfDontTouch);
-    QCOMPARE(ShortDateFormat(), QStringLiteral("d/M/yy"));
-}
-
-void tst_TqShowApp::loadedAloneHasNoForm()
-{
-    TqShowApp info;
-    info.QueueLoaded();
-    QVERIFY_THROWS_EXCEPTION(EComponentError, info.FinishLoading());
-}
-
-void tst_TqShowApp::applicationEventsAndSettings()
-{
-    TqShowApp info;
-    EventLog log;
-    log.watch(&info, &TqShowApp::OnHint, "hint");
-    Application()->SetHint(QStringLiteral("Trigger level"));
-    Application()->SetHint(QStringLiteral("Trigger level"));   // no change, no event
-    QCOMPARE(log.names, QStringList{"hint"});
-    info.SetHintPause(120);
-    QCOMPARE(Application()->HintPause(), 120);
-    // Designing a form leaves the designer's own application alone.
-    std::unique_ptr<TqShowApp> designed;
-    {
-        DesignTimeCreation designing;
-        designed = std::make_unique<TqShowApp>();
-    }
-    designed->SetTitle(QStringLiteral("Designed"));
-    designed->SetHintPause(900);
-    QCOMPARE(designed->Title(), QStringLiteral("Designed"));
-    QCOMPARE(designed->HintPause(), 900);
-    QVERIFY(Application()->Title() != QLatin1String("Designed"));
-    QCOMPARE(Application()->HintPause(), 120);
-}
-
-void tst_TqShowApp::endOfSessionAskedOfTheMainForm()
-{
-    QWidget form, dialog;
-    auto *info = new TqShowApp(&form);
-    auto *other = new TqShowApp(&dialog);
-    for (TqShowApp *c : {info, other}) {
-        c->QueueLoaded();
-        c->FinishLoading();
-    }
-    Application()->SetMainForm(&form);
-    QStringList seen;
-    bool allow = false;
-    connect(info, &TqShowApp::OnAskEndSession, info, [&](bool &doEnd) { seen << "ask"; doEnd = allow; });
-    connect(info, &TqShowApp::OnEndSession, info, [&] { seen << "end"; });
-    connect(other, &TqShowApp::OnAskEndSession, other, [&](bool &doEnd) { seen << "other"; doEnd = false; });
-    QVERIFY(!Application()->QueryEndSession());
-    allow = true;
-    QVERIFY(Application()->QueryEndSession());
-    TEndSessionEvent ending;
-    QCoreApplication::sendEvent(&form, &ending);
-    // Only the main form's component is asked.
-    TQueryEndSessionEvent query;
-    QCoreApplication::sendEvent(&dialog, &query);
-    QVERIFY(query.DoEnd);
-    QCOMPARE(seen, (QStringList{"ask", "ask", "end"}));
-}
-
-void tst_TqShowApp::secondStartHandsOverAndEnds()
-{
-    Probe first;
-    QCOMPARE(first.line(), QStringLiteral("first"));
-    for (int i = 0; i < 5; ++i) {
-        Probe second;
-        QCOMPARE(second.line(), QStringLiteral("second"));
-        QVERIFY(second.process.waitForFinished(10000));   // it ends by itself
-        QCOMPARE(first.line(), QStringLiteral("another"));   // once for each
-    }
-    // Started in pairs, exactly one of each pair survives: the other ends
-    // by itself.
-    first.process.kill();
-    first.process.waitForFinished(5000);
-    for (int i = 0; i < 100; ++i) {
-        Probe a, b;
-        const QString saidA = a.line(), saidB = b.line();
-        QCOMPARE(QStringList({saidA, saidB}).count(QStringLiteral("first")), 1);
-        Probe &survivor = saidA == QLatin1String("first") ? a : b, &other = &survivor == &a ? b : a;
-        QVERIFY(other.process.waitForFinished(10000));
-        QCOMPARE(survivor.process.state(), QProcess::Running);
-    }
-}
-
-void tst_TqShowApp::secondStartMayLeaveTheFirstAlone()
-{
-    Probe first;
-    QCOMPARE(first.line(), QStringLiteral("first"));
-    {
-        Probe second({QStringLiteral("nobring")});
-        QCOMPARE(second.line(), QStringLiteral("second"));
-        QVERIFY(second.process.waitForFinished(10000));
-    }
-    // A later start that does hand over is heard; the one before was not.
-    Probe third;
-    QCOMPARE(third.line(), QStringLiteral("second"));
-    QCOMPARE(first.line(), QStringLiteral("another"));
-    QVERIFY(!first.process.canReadLine());
-}
 
 QTEST_MAIN(tst_TqShowApp)
 #include "tst_tqshowapp.moc"

@@ -30,79 +30,75 @@ class tst_TqTitleBar : public QObject
 {
     Q_OBJECT
 private slots:
-    void hideAndShowKeepTheForm();
-    void borderStyleCases();
-    void designerLeavesTheFormAlone();
-};
-
-void tst_TqTitleBar::hideAndShowKeepTheForm()
-{
-    QWidget form;
-    auto *edit = new QLineEdit(&form);
-    form.setGeometry(100, 120, 300, 200);
-    LoadedOn on(&form);
-    QCOMPARE(on.log.names, QStringList{"change"});   // shown as loaded: no change, still told
-    form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
-    form.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    edit->setFocus();
-    const QPoint place = form.pos();
-    on.bar->SetTitleBar(false);
-    QVERIFY(!on.bar->IsShowTitleBar());
-    QCOMPARE(form.size(), QSize(300, 200));
-    QCOMPARE(form.pos(), place);
-    QVERIFY(form.isVisible());
-    QCOMPARE(form.focusWidget(), edit);   // the form's focus stays where it was
-    on.bar->SetTitleBar(true);
-    QVERIFY(on.bar->IsShowTitleBar());
-    QCOMPARE(form.size(), QSize(300, 200));
-    QCOMPARE(on.log.names, (QStringList{"change", "change", "change"}));
-}
-
-void tst_TqTitleBar::borderStyleCases()
-{
-    // No border: nothing changes and nobody is told.
-    QWidget bare(nullptr, Qt::FramelessWindowHint);
-    LoadedOn none(&bare, false);
-    none.bar->SetTitleBar(false);
-    QVERIFY(none.log.names.isEmpty());
-    QCOMPARE(bare.windowFlags() & Qt::CustomizeWindowHint, Qt::WindowFlags());
-    // A dialog loses its title bar as loaded.
-    QDialog dialog;
-    dialog.setFixedSize(200, 100);
-    LoadedOn fixed(&dialog, false);
-    QVERIFY(!fixed.bar->IsShowTitleBar());
-    QCOMPARE(dialog.windowType(), Qt::Dialog);
-    QCOMPARE(dialog.size(), QSize(200, 100));
-    // A tool window keeps its title bar; each hide takes its height off.
-    QWidget tool(nullptr, Qt::Tool);
-    tool.resize(200, 150);
-    LoadedOn palette(&tool);
-    const int caption = TitleBarHeight(&tool);
-    QVERIFY(caption > 0);
-    palette.bar->SetTitleBar(false);
-    palette.bar->SetTitleBar(false);
-    QCOMPARE(tool.height(), 150 - 2 * caption);
-    QVERIFY(palette.bar->IsShowTitleBar());
-    palette.bar->SetTitleBar(true);
-    QCOMPARE(tool.height(), 150 - 2 * caption);
-}
-
-void tst_TqTitleBar::designerLeavesTheFormAlone()
-{
-    QWidget form;
-    std::unique_ptr<TqTitleBar> bar;
+    void hideAndShowKeepTheForm()
     {
-        DesignTimeCreation designing;
-        bar = std::make_unique<TqTitleBar>(&form);
+        QWidget form;
+        auto *edit = new QLineEdit(&form);
+        form.setGeometry(100, 120, 300, 200);
+        LoadedOn on(&form);
+        QCOMPARE(on.log.names, QStringList{"change"});   // shown as loaded: no change, still told
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        edit->setFocus();
+        const QPoint place = form.pos();
+        on.bar->SetTitleBar(false);
+        QVERIFY(!on.bar->IsShowTitleBar());
+        QCOMPARE(form.size(), QSize(300, 200));
+        QCOMPARE(form.pos(), place);
+        QVERIFY(form.isVisible());
+        QCOMPARE(form.focusWidget(), edit);   // the form's focus stays where it was
+        on.bar->SetTitleBar(true);
+        QVERIFY(on.bar->IsShowTitleBar());
+        QCOMPARE(form.size(), QSize(300, 200));
+        QCOMPARE(on.log.names, (QStringList{"change", "change", "change"}));
     }
-    bar->SetTitleBarOnFormShow(false);
-    bar->QueueLoaded();
-    bar->FinishLoading();
-    bar->SetTitleBar(false);
-    QVERIFY(bar->IsShowTitleBar());
-}
+
+    void borderStyleCases()
+    {
+        // No border: nothing changes and nobody is told.
+        QWidget bare(nullptr, Qt::FramelessWindowHint);
+        LoadedOn none(&bare, false);
+        none.bar->SetTitleBar(false);
+        QVERIFY(none.log.names.isEmpty());
+        QCOMPARE(bare.windowFlags() & Qt::CustomizeWindowHint, Qt::WindowFlags());
+        // A dialog loses its title bar as loaded.
+        QDialog dialog;
+        dialog.setFixedSize(200, 100);
+        LoadedOn fixed(&dialog, false);
+        QVERIFY(!fixed.bar->IsShowTitleBar());
+        QCOMPARE(dialog.windowType(), Qt::Dialog);
+        QCOMPARE(dialog.size(), QSize(200, 100));
+        // A tool window keeps its title bar; each hide takes its height off.
+        QWidget tool(nullptr, Qt::Tool);
+        tool.resize(200, 150);
+        LoadedOn palette(&tool);
+        const int caption = TitleBarHeight(&tool);
+        QVERIFY(caption > 0);
+        palette.bar->SetTitleBar(false);
+        palette.bar->SetTitleBar(false);
+        QCOMPARE(tool.height(), 150 - 2 * caption);
+        QVERIFY(palette.bar->IsShowTitleBar());
+        palette.bar->SetTitleBar(true);
+        QCOMPARE(tool.height(), 150 - 2 * caption);
+    }
+
+    void designerLeavesTheFormAlone()
+    {
+        QWidget form;
+        std::unique_ptr<TqTitleBar> bar;
+        {
+            DesignTimeCreation designing;
+            bar = std::make_unique<TqTitleBar>(&form);
+        }
+        bar->SetTitleBarOnFormShow(false);
+        bar->QueueLoaded();
+        bar->FinishLoading();
+        bar->SetTitleBar(false);
+        QVERIFY(bar->IsShowTitleBar());
+    }
+};
 
 QTEST_MAIN(tst_TqTitleBar)
 #include "tst_tqtitlebar.moc"
