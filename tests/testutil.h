@@ -24,6 +24,36 @@ private:
     QObject FContext;   // goes with the log, and its connections with it
 };
 
+// Runs the event loop until `timer` has ticked `n` more times; each time its
+// earlier handlers have run first. A wait that proves the timer ran, where a
+// test checks that nothing else happened meanwhile.
+template <class Timer>
+void waitForTicks(Timer *timer, int n)
+{
+    QSignalSpy spy(timer, &Timer::OnTimer);
+    QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= n, 10000);
+}
+
+// Repaints `area` of a shown widget and runs the event loop until that paint
+// is done; paints pending elsewhere in its window are done in the same pass.
+// Keep `area` clear of the controls a test watches.
+inline void waitForRepaintOf(QWidget *w, QRect area)
+{
+    struct Watch : QObject
+    {
+        bool painted = false;
+        bool eventFilter(QObject *, QEvent *e) override
+        {
+            painted |= e->type() == QEvent::Paint;
+            return false;
+        }
+    } watch;
+    w->installEventFilter(&watch);
+    w->update(area);
+    QTRY_VERIFY(watch.painted);
+    w->removeEventFilter(&watch);
+}
+
 // A control on a shown form, focused, as a user meets it.
 template <class Control>
 struct ShownOnForm

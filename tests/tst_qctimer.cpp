@@ -1,9 +1,19 @@
 // The threaded timer: when it ticks, where its handler runs, and that it
 // stops cleanly whatever the worker is doing.
 #include "services/std2.h"
+#include "testutil.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
+
+// Runs the event loop until a second timer of the same interval has ticked
+// `ticks` times: the proof that a timer under test had that many chances.
+static void witnessTicks(int ticks, unsigned interval)
+{
+    TqcTimer witness;
+    witness.SetInterval(interval);
+    waitForTicks(&witness, ticks);
+}
 
 class tst_QcTimer : public QObject
 {
@@ -52,7 +62,7 @@ private slots:
         if (handler)
             connect(&timer, &TqcTimer::OnTimer, this, [](QObject *) {});
         QVERIFY(!timer.Ticking());
-        QTest::qWait(150);
+        witnessTicks(10, 5);
         QCOMPARE(timer.calls, 0);
     }
 
@@ -60,7 +70,7 @@ private slots:
     {
         TqcTimer timer;
         timer.SetInterval(5);
-        QTest::qWait(50);
+        witnessTicks(3, 5);
         QSignalSpy spy(&timer, &TqcTimer::OnTimer);   // a spy is a connection too
         QVERIFY(timer.Ticking());
         QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= 2, 5000);
@@ -76,14 +86,14 @@ private slots:
                 timer.SetEnabled(false);   // from inside the handler
         });
         QTRY_COMPARE_WITH_TIMEOUT(ticks, 2, 5000);
-        QTest::qWait(100);
+        witnessTicks(5, 5);
         QCOMPARE(ticks, 2);
         timer.SetEnabled(true);
         QTRY_VERIFY_WITH_TIMEOUT(ticks > 2, 5000);
         disconnect(c);
         QVERIFY(!timer.Ticking());
         const int stopped = ticks;
-        QTest::qWait(100);
+        witnessTicks(5, 5);
         QCOMPARE(ticks, stopped);
     }
 
@@ -114,7 +124,7 @@ private slots:
         QThread::msleep(60);   // the next tick is now waiting for the main thread
         const int before = ticks;
         delete timer;
-        QTest::qWait(50);
+        witnessTicks(3, 5);
         QCOMPARE(ticks, before);
     }
 
@@ -130,7 +140,7 @@ private slots:
         connect(timer, &QObject::destroyed, this, [&] { ticksAtDestruction = ticks; });
         QTRY_VERIFY_WITH_TIMEOUT(timer.isNull(), 5000);
         QVERIFY(ticksAtDestruction >= 1);
-        QTest::qWait(50);
+        witnessTicks(3, 5);
         QCOMPARE(ticks, ticksAtDestruction);
     }
 
@@ -140,11 +150,17 @@ private slots:
         timer.SetInterval(2000);
         int ticks = 0;
         connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *) { ++ticks; });
-        // The sleep under way finishes first; later rounds use the new interval.
-        QTest::qWait(20);
+        witnessTicks(2, 5);
         timer.SetInterval(5);
         QVERIFY(timer.Ticking());
-        QTRY_VERIFY_WITH_TIMEOUT(ticks >= 3, 10000);
+        // The sleep under way finishes first; the next two rounds use the new
+        // interval, so they come before another timer's first 2000 ms round.
+        QTRY_VERIFY_WITH_TIMEOUT(ticks >= 1, 10000);
+        TqcTimer old;
+        old.SetInterval(2000);
+        QSignalSpy oldTicks(&old, &TqcTimer::OnTimer);
+        QTRY_VERIFY_WITH_TIMEOUT(ticks >= 3 || oldTicks.count() > 0, 10000);
+        QCOMPARE(oldTicks.count(), 0);
         timer.SetInterval(0);
         QVERIFY(!timer.Ticking());
     }

@@ -2,6 +2,7 @@
 // down, forwarded events and the clock's cells.
 #include "displays/qseg.h"
 #include "host/tcodepage.h"
+#include "testutil.h"
 
 #include <QtTest>
 
@@ -117,12 +118,12 @@ private slots:
         QSignalSpy changes(&clock, &TqcDotClock::OnTimeChange);
         clock.Timer()->SetInterval(5);
         now = QTime(8, 59, 59);
-        QTest::qWait(50);
+        waitForTicks(clock.Timer(), 2);
         QCOMPARE(changes.count(), 0);
         now = QTime(9, 0, 0);
         QTRY_COMPARE(changes.count(), 1);
         QCOMPARE(shown(clock), QStringLiteral("09:00"));
-        QTest::qWait(50);
+        waitForTicks(clock.Timer(), 2);
         QCOMPARE(changes.count(), 1);
     }
 };

@@ -60,6 +60,7 @@ private slots:
         // Values that light the same blocks ask for no repaint.
         ShownOnForm<TqcPeakOmeter> shown;
         TqcPeakOmeter *live = shown.control;
+        live->setGeometry(0, 0, 20, 100);
         live->SetPeakHold(60000);
         live->Push(50);
         live->repaint();
@@ -76,7 +77,7 @@ private slots:
         counter.n = &paints;
         live->installEventFilter(&counter);
         live->Push(51);   // still 10 of 20 blocks
-        QTest::qWait(30);
+        waitForRepaintOf(&shown.form, QRect(190, 190, 5, 5));
         QCOMPARE(paints, 0);
         live->Push(80);
         QTRY_VERIFY(paints > 0);

@@ -2,6 +2,7 @@
 // folded points and colons, forwarded mouse events, and the clock's ticks.
 #include "displays/qseg.h"
 #include "host/tcodepage.h"
+#include "testutil.h"
 
 #include <QtTest>
 
@@ -223,7 +224,7 @@ private slots:
         clock.SetSek(seconds);
         QSignalSpy changes(&clock, &TqSegmentClock::OnTimeChange);
         clock.Timer()->SetInterval(5);
-        QTest::qWait(60);
+        waitForTicks(clock.Timer(), 2);
         QCOMPARE(int(changes.count()), 0);   // nothing new yet
 
         // Same minute, new second: only the clock with seconds changes.
@@ -233,7 +234,7 @@ private slots:
             QCOMPARE(changes.at(0).at(0).value<QObject *>(), &clock);
             QCOMPARE(clock.Caption(), QStringLiteral("13:07:50"));
         } else {
-            QTest::qWait(60);
+            waitForTicks(clock.Timer(), 2);
             QCOMPARE(int(changes.count()), 0);
             QCOMPARE(clock.Caption(), QStringLiteral("13:07:45"));
         }
@@ -241,7 +242,7 @@ private slots:
         // New minute, same second: only the clock without seconds changes.
         now = QTime(13, 8, 50);
         if (seconds) {
-            QTest::qWait(60);
+            waitForTicks(clock.Timer(), 2);
             QCOMPARE(clock.Caption(), QStringLiteral("13:07:50"));
         } else {
             QTRY_COMPARE(clock.Caption(), QStringLiteral("13:08:50"));

@@ -72,7 +72,7 @@ private slots:
         canvas.EndPaint();
         QVERIFY(canvas.Canvas()->ClipRect().Right == 0);   // a fresh canvas, on nothing yet
         QCOMPARE(canvas.Canvas()->Pen.Color(), TColor(clBlack));   // keeping nothing of the last
-        QTest::qWait(50);
+        waitForRepaintOf(&panel.form, QRect(80, 50, 5, 5));
         QCOMPARE(panel.at(15, 15), qRgb(255, 0, 0));       // still there after the session
         panel.control->update();                            // until the control paints itself
         QTRY_COMPARE(panel.at(15, 15), qRgb(255, 255, 255));
