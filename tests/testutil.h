@@ -80,6 +80,31 @@ inline QFont crisp(const QFont &base, int pixels)
     return f;
 }
 
+// The pixels of `image` that pass `test`: how many, and the box round them.
+struct Pixels
+{
+    int count = 0;
+    QRect box;
+};
+
+template <class Test>
+Pixels pixelsWhere(const QImage &image, Test test)
+{
+    Pixels out;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (test(image.pixel(x, y))) {
+                ++out.count;
+                out.box |= QRect(x, y, 1, 1);
+            }
+    return out;
+}
+
+inline Pixels pixelsOf(const QImage &image, QRgb colour)
+{
+    return pixelsWhere(image, [colour](QRgb p) { return p == colour; });
+}
+
 // A mouse move with the left button held, as a drag delivers it.
 inline void dragTo(QWidget *w, QPoint p)
 {
@@ -96,3 +121,32 @@ inline QString runTool(const QString &program, const QStringList &args = {})
     p.waitForFinished(10000);
     return QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
 }
+
+// A helper program started for a test, read line by line; killed with the
+// test if it still runs.
+struct ProbeProcess
+{
+    QProcess process;
+    ProbeProcess(const QString &program, const QStringList &args)
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        process.setProcessEnvironment(env);
+        process.start(program, args);
+    }
+    ~ProbeProcess()
+    {
+        if (process.state() != QProcess::NotRunning) {
+            process.kill();
+            process.waitForFinished(5000);
+        }
+    }
+    // The next line of its output; empty when none comes.
+    QString line()
+    {
+        while (!process.canReadLine())
+            if (!process.waitForReadyRead(10000))
+                return QString();
+        return QString::fromLocal8Bit(process.readLine()).trimmed();
+    }
+};

@@ -16,6 +16,7 @@
 #include "labels/labels.h"
 #include "services/mystd.h"
 #include "services/std2.h"
+#include "testutil.h"
 
 #include <QtDesigner/QDesignerComponents>
 #include <QtDesigner/QDesignerFormEditorInterface>
@@ -238,20 +239,12 @@ private slots:
         for (const TComponentEntry &e : Components()) {
             const QIcon icon = ComponentIcon(e);
             QCOMPARE(icon.availableSizes(), (QList<QSize>{QSize(24, 24), QSize(48, 48)}));
-            const QImage small = icon.pixmap(24, 24).toImage();
-            int opaque = 0;
-            for (int y = 0; y < 24; ++y)
-                for (int x = 0; x < 24; ++x)
-                    opaque += qAlpha(small.pixel(x, y)) == 255;
+            const int opaque = pixelsWhere(icon.pixmap(24, 24).toImage(), [](QRgb p) { return qAlpha(p) == 255; }).count;
             QVERIFY2(opaque >= 24 * 8, e.className);   // a picture, at least a third of the square
         }
         // The segment cell's icon is its '8': the lit colour is in it.
         const QImage seg = ComponentIconImage(*FindComponent("TqSegment"), 48);
-        bool lit = false;
-        for (int y = 0; y < 48 && !lit; ++y)
-            for (int x = 0; x < 48 && !lit; ++x)
-                lit = qGreen(seg.pixel(x, y)) > 200 && qRed(seg.pixel(x, y)) < 60;
-        QVERIFY(lit);
+        QVERIFY(pixelsWhere(seg, [](QRgb p) { return qGreen(p) > 200 && qRed(p) < 60; }).count > 0);
     }
 
     void formRoundTripThroughDesigner()

@@ -27,25 +27,8 @@ QPair<QRgb, QRgb> firstAndLast(const QImage &image, QRgb ground)
     return {first, last};
 }
 
-int count(const QImage &image, QRgb colour)
-{
-    int n = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            n += image.pixel(x, y) == colour;
-    return n;
-}
-
-// The box round the pixels of one colour.
-QRect boxOf(const QImage &image, QRgb colour)
-{
-    QRect box;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) == colour)
-                box |= QRect(x, y, 1, 1);
-    return box;
-}
+int count(const QImage &image, QRgb colour) { return pixelsOf(image, colour).count; }
+QRect boxOf(const QImage &image, QRgb colour) { return pixelsOf(image, colour).box; }
 
 const QRgb white = qRgb(255, 255, 255), red = qRgb(255, 0, 0), green = qRgb(0, 128, 0), blue = qRgb(0, 0, 255);
 
@@ -82,14 +65,7 @@ private slots:
         link->SetCaption(QStringLiteral("Calibrate"));
         link->move(20, 20);
         QSignalSpy clicks(link, &TControl::OnClick);
-        const auto has = [&](QRgb colour) {
-            const QImage shot = link->RenderImage(qRgb(255, 255, 255));
-            for (int y = 0; y < shot.height(); ++y)
-                for (int x = 0; x < shot.width(); ++x)
-                    if (shot.pixel(x, y) == colour)
-                        return true;
-            return false;
-        };
+        const auto has = [&](QRgb colour) { return count(link->RenderImage(qRgb(255, 255, 255)), colour) > 0; };
         QTest::mouseMove(link, QPoint(5, 5));
         QTRY_VERIFY(link->Hot());
         QVERIFY(has(qRgb(255, 0, 0)));

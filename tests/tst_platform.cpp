@@ -7,7 +7,6 @@
 
 #include "testutil.h"
 
-#include <QProcess>
 #include <QUuid>
 #include <QtTest>
 
@@ -15,28 +14,11 @@
 
 namespace {
 
-// A probe process and its output, line by line.
-struct Probe
+struct Probe : ProbeProcess
 {
-    QProcess process;
     Probe(const QString &key, const char *mode)
+        : ProbeProcess(QStringLiteral(QC_INSTANCE_PROBE), {key, QString::fromLatin1(mode)})
     {
-        process.start(QStringLiteral(QC_INSTANCE_PROBE), {key, QString::fromLatin1(mode)});
-    }
-    ~Probe()
-    {
-        if (process.state() != QProcess::NotRunning) {
-            process.kill();
-            process.waitForFinished(5000);
-        }
-    }
-    // The next line of its output.
-    QString line()
-    {
-        while (!process.canReadLine())
-            if (!process.waitForReadyRead(10000))
-                return QString();
-        return QString::fromLocal8Bit(process.readLine()).trimmed();
     }
 };
 
@@ -103,17 +85,6 @@ private slots:
         Probe later(key, "try");
         QCOMPARE(later.line(), QStringLiteral("second"));
         QVERIFY(next.line().startsWith(QStringLiteral("got hello")));
-    }
-
-    void pairedStartsLeaveOneFirst()
-    {
-        for (int i = 0; i < 100; ++i) {
-            const QString key = freshKey();
-            Probe a(key, "hold"), b(key, "hold");
-            const QStringList said{a.line(), b.line()};
-            QCOMPARE(said.count(QStringLiteral("first")), 1);
-            QCOMPARE(said.count(QStringLiteral("second")), 1);
-        }
     }
 
     void channelsOfOneProcessAllHear()

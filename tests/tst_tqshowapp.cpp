@@ -6,33 +6,13 @@
 
 #include "testutil.h"
 
-#include <QProcess>
 #include <QtTest>
 
 namespace {
 
-struct Probe
+struct Probe : ProbeProcess
 {
-    QProcess process;
-    explicit Probe(const QStringList &args = {})
-    {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        process.setProcessEnvironment(env);
-        process.start(QStringLiteral(QC_SHOWAPP_PROBE), args);
-    }
-    ~Probe()
-    {
-        process.kill();
-        process.waitForFinished(5000);
-    }
-    QString line()
-    {
-        while (!process.canReadLine())
-            if (!process.waitForReadyRead(10000))
-                return QString();
-        return QString::fromLocal8Bit(process.readLine()).trimmed();
-    }
+    explicit Probe(const QStringList &args = {}) : ProbeProcess(QStringLiteral(QC_SHOWAPP_PROBE), args) {}
 };
 
 } // namespace

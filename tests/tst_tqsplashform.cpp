@@ -98,11 +98,7 @@ private slots:
         QCOMPARE(p.pixel(319, 199), ColorToQColor(clBtnShadow).rgb());  // dark bottom right
         QCOMPARE(p.pixel(100, 50), qRgb(0, 0, 128));
         // The caption: centred, its line ending 12 pixels above the bottom.
-        QRect ink;
-        for (int y = 0; y < p.height(); ++y)
-            for (int x = 0; x < p.width(); ++x)
-                if (p.pixel(x, y) == qRgb(255, 255, 0))
-                    ink |= QRect(x, y, 1, 1);
+        const QRect ink = pixelsOf(p, qRgb(255, 255, 0)).box;
         QVERIFY(!ink.isEmpty());
         QVERIFY(qAbs(ink.center().x() - 160) <= 2);
         QVERIFY(ink.bottom() < 200 - 12 && ink.bottom() > 200 - 12 - QFontMetrics(splash.Font()).height());
