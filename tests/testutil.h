@@ -54,6 +54,14 @@ inline void waitForRepaintOf(QWidget *w, QRect area)
     w->removeEventFilter(&watch);
 }
 
+// A component's Loaded, as a form load runs it once the form is complete.
+template <class Component>
+void loaded(Component *c)
+{
+    c->QueueLoaded();
+    c->FinishLoading();
+}
+
 // A control on a shown form, focused, as a user meets it.
 template <class Control>
 struct ShownOnForm

@@ -1,6 +1,5 @@
-// The application object: tips on its own timing with OnShowHint and OnHint,
-// exceptions from component events, help requests, OnMessage, OnIdle and
-// the main form's minimise and restore.
+// The application object: tips on its own timing, exceptions from component
+// events, help, messages, idle and the main form.
 #include "host/tapplication.h"
 #include "indicators/qled.h"
 

@@ -1,8 +1,4 @@
-// Form background, blend painters and tile maps: band edges and colours in
-// each direction, ring blends, tiles without seams, the wallpaper on a form
-// at run time (on the MDI area of an MDI form) and never in the designer,
-// OnPaint and OnResize, the steel look, the designer's outline, and mouse
-// input falling through a non-windowed painter.
+// Form backgrounds, blend painters and tile maps.
 #include "backgrounds/blend.h"
 #include "host/tapplication.h"
 
@@ -27,14 +23,6 @@ QPixmap numbered(int w, int h)
     return QPixmap::fromImage(image);
 }
 
-template <class T>
-T *loadedOn(QWidget *form)
-{
-    auto *c = new T(form);
-    c->QueueLoaded();
-    c->FinishLoading();
-    return c;
-}
 
 } // namespace
 
@@ -104,8 +92,7 @@ private slots:
             canvas->Brush.SetColor(clLime);
             canvas->FillRect(Rect(0, 0, 10, 10));
         });
-        back->QueueLoaded();
-        back->FinishLoading();
+        loaded(back);
         form.show();
         QVERIFY(QTest::qWaitForWindowExposed(&form));
         resizes = 0;
@@ -135,8 +122,7 @@ private slots:
             designed = std::make_unique<TqBackground>(&designedForm);
         }
         designed->SetBackType(TqBackground::btSteel);
-        designed->QueueLoaded();
-        designed->FinishLoading();
+        loaded(designed.get());
         QCOMPARE(designedForm.grab().toImage().pixel(50, 50), designedForm.palette().color(QPalette::Window).rgb());
     }
 
@@ -152,8 +138,7 @@ private slots:
         back->SetBackType(TqBackground::btBlend);
         back->SetColor(clYellow);
         back->SetEndColor(clYellow);
-        back->QueueLoaded();
-        back->FinishLoading();
+        loaded(back);
         main.show();
         QVERIFY(QTest::qWaitForWindowExposed(&main));
         QCOMPARE(back->Target(), area->viewport());

@@ -16,6 +16,16 @@ void numbered(TBitmap &b, int w, int h)
     b.Assign(image);
 }
 
+// A picture of one row of these pixels.
+QImage row(std::initializer_list<QRgb> pixels)
+{
+    QImage image(int(pixels.size()), 1, QImage::Format_RGB32);
+    int x = 0;
+    for (QRgb p : pixels)
+        image.setPixel(x++, 0, p);
+    return image;
+}
+
 QRgb at(const TBitmap &b, int x, int y) { return b.Image().pixel(x, y) | 0xFF000000u; }
 
 } // namespace
@@ -55,12 +65,7 @@ private slots:
     void darkenLightenGrey()
     {
         TBitmap b;
-        b.Assign([] {
-            QImage i(2, 1, QImage::Format_RGB32);
-            i.setPixel(0, 0, qRgb(200, 100, 51));
-            i.setPixel(1, 0, qRgb(255, 0, 10));
-            return i;
-        }());
+        b.Assign(row({qRgb(200, 100, 51), qRgb(255, 0, 10)}));
         DarkenBMP(b, 25);
         QCOMPARE(at(b, 0, 0), qRgb(150, 75, 38));
         LightenBMP(b, 50);
@@ -68,11 +73,7 @@ private slots:
         QCOMPARE(at(b, 1, 0), qRgb(223, 128, 132));   // (191, 0, 8) after the darkening
         DarkenBMP(b, 250);   // past 100: black
         QCOMPARE(at(b, 1, 0), qRgb(0, 0, 0));
-        b.Assign([] {
-            QImage i(1, 1, QImage::Format_RGB32);
-            i.setPixel(0, 0, qRgb(255, 128, 0));
-            return i;
-        }());
+        b.Assign(row({qRgb(255, 128, 0)}));
         GreyBMP(b);
         QCOMPARE(at(b, 0, 0), qRgb(151, 151, 151));   // (299*255 + 587*128) / 1000
     }
@@ -106,7 +107,7 @@ private slots:
         const QRgb under = qRgb(1, 2, 3);
         TqFrame frame;
         frame.SetBounds(0, 0, 20, 10);
-        QImage box = frame.RenderImage(under);
+        const QImage box = frame.RenderImage(under);
         QCOMPARE(box.pixel(0, 0), shadow);
         QCOMPARE(box.pixel(19, 9), light);
         QCOMPARE(box.pixel(10, 5), under);   // only lines

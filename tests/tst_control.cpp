@@ -1,6 +1,7 @@
 // What all controls share: mouse events in the platform's order, colour
 // inheritance, design mode, the off-screen paint and the non-visual face.
 #include "host/tcontrol.h"
+#include "testutil.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -10,17 +11,19 @@
 #include <QtTest>
 
 namespace {
-// Paints its left half blue and leaves the rest to whatever is below.
+// Paints its left half blue (or `colour`) and leaves the rest to whatever
+// is below.
 class HalfControl : public TGraphicControl
 {
 public:
     using TGraphicControl::TGraphicControl;
     int paints = 0;
+    TColor colour = clBlue;
 protected:
     void Paint(TCanvas &canvas) override
     {
         ++paints;
-        canvas.Brush.SetColor(clBlue);
+        canvas.Brush.SetColor(colour);
         canvas.FillRect(Rect(0, 0, width() / 2, height()));
     }
 };
@@ -358,12 +361,9 @@ private slots:
 
     void canvasOutsidePaint()
     {
-        QWidget form;
-        form.resize(40, 20);
-        auto *c = new HalfControl(&form);
-        c->setGeometry(0, 0, 40, 20);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        ShownOnForm<HalfControl> shown;
+        QWidget &form = shown.form;
+        shown.control->setGeometry(0, 0, 40, 20);
         const QRgb before = pixelOf(&form, 30, 5);
         {
             TControlCanvas canvas(&form);
@@ -387,22 +387,10 @@ private slots:
     // the application's palette changes, and in a style sheet's colours.
     void systemColoursFollowPaletteAndStyleSheet()
     {
-        class Face : public TGraphicControl
-        {
-        public:
-            using TGraphicControl::TGraphicControl;
-            void Paint(TCanvas &canvas) override
-            {
-                canvas.Brush.SetColor(clBtnFace);
-                canvas.FillRect(ClientRect());
-            }
-        };
-        QWidget form;
-        form.resize(40, 20);
-        auto *face = new Face(&form);
-        face->setGeometry(0, 0, 40, 20);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        ShownOnForm<HalfControl> shown;
+        QWidget &form = shown.form;
+        shown.control->colour = clBtnFace;
+        shown.control->setGeometry(0, 0, 40, 20);
         const QPalette before = QApplication::palette();
         QCOMPARE(pixelOf(&form, 5, 5), before.color(QPalette::Button).rgb() & 0xFFFFFF);
         QPalette dark = before;

@@ -1,7 +1,5 @@
-// The Designer plugin as Designer itself uses it: loaded from the plugin
-// folder, its widgets listed in the widget box's order, made in design
-// mode, edited through the property sheet, saved by a real form editor and
-// read back by QUiLoader; the component editor's verbs and the help.
+// The Designer plugin as Designer itself uses it, through a real form editor
+// and QUiLoader.
 #include "design/qcinit01.h"
 #include "design/qs_vcl32.h"
 #include "backgrounds/blend.h"
@@ -189,6 +187,17 @@ class tst_Designer : public QObject
                          name);
     }
     std::unique_ptr<QWidget> reloaded() const { return loadForm(d->form->contents().toUtf8()); }
+    // The editor that `action` of `w` opens; by default the double-click's.
+    template <class Editor>
+    Editor *openEditor(QWidget *w, QAction *action = nullptr) const
+    {
+        if (!action)
+            action = d->extension<QDesignerTaskMenuExtension>(w)->preferredEditAction();
+        if (!action)
+            return nullptr;
+        action->trigger();
+        return w->window()->findChild<Editor *>();
+    }
 private slots:
     void initTestCase() { d = std::make_unique<DesignerCore>(); }
     void cleanupTestCase() { d.reset(); }
@@ -368,14 +377,7 @@ private slots:
         QVERIFY(tile.save(file));
         auto *map = designOne<TqTileMap>("map");
         QVERIFY(map);
-        QAction *edit = d->extension<QDesignerTaskMenuExtension>(map)->preferredEditAction();
-        QVERIFY(edit);
-        const auto open = [&] {
-            edit->trigger();
-            auto *editor = map->window()->findChild<TqBitmapEditor *>();
-            return editor;
-        };
-        TqBitmapEditor *editor = open();
+        TqBitmapEditor *editor = openEditor<TqBitmapEditor>(map);
         QVERIFY(editor);
         QVERIFY(editor->Picture().isNull());
         QVERIFY(!editor->Load(dir.filePath(QStringLiteral("missing.png"))));   // not a picture: nothing changes
@@ -385,7 +387,7 @@ private slots:
         QVERIFY(d->form->contents().contains(QStringLiteral("rivet.png</pixmap>")));   // stored as its file
         // Opened again it shows the picture and its file; Clear empties it.
         QTRY_VERIFY(!map->window()->findChild<TqBitmapEditor *>());
-        editor = open();
+        editor = openEditor<TqBitmapEditor>(map);
         QCOMPARE(editor->FileName(), file);
         QCOMPARE(editor->Picture().size(), QSize(8, 6));
         editor->Clear();
@@ -426,8 +428,7 @@ private slots:
         QAction *edit = menu->preferredEditAction();   // what a double-click opens
         QVERIFY(edit && menu->taskActions().contains(edit));
         const auto pick = [&](int style, bool ok) {
-            edit->trigger();
-            auto *editor = gauge->window()->findChild<TqGaugeEditor *>();
+            auto *editor = openEditor<TqGaugeEditor>(gauge);
             QVERIFY(editor && editor->isVisible());
             QCOMPARE(editor->CaptionStyle(), int(gauge->CaptionStyle()));   // opens on the current style
             auto radios = editor->findChildren<QRadioButton *>();
@@ -449,10 +450,7 @@ private slots:
     {
         auto *button = designOne<TqShapeBtn>("shape");
         QVERIFY(button);
-        QAction *edit = d->extension<QDesignerTaskMenuExtension>(button)->preferredEditAction();
-        QVERIFY(edit);
-        edit->trigger();
-        auto *editor = button->window()->findChild<TqShapeBtnEditor *>();
+        auto *editor = openEditor<TqShapeBtnEditor>(button);
         QVERIFY(editor);
         QCOMPARE(editor->Shape(), int(TqShapeBtn::sbRectangle));
         editor->SetShape(TqShapeBtn::sbPlus);
@@ -474,10 +472,7 @@ private slots:
                                            "label");
         QVERIFY(label);
         QCOMPARE(label->Angle(), 30);
-        QAction *edit = d->extension<QDesignerTaskMenuExtension>(label)->preferredEditAction();
-        QVERIFY(edit);
-        edit->trigger();
-        auto *editor = label->window()->findChild<TqAngleEditor *>();
+        auto *editor = openEditor<TqAngleEditor>(label);
         QVERIFY(editor);
         QCOMPARE(editor->Angle(), 30);
         QCOMPARE(editor->Dial()->value(), 240);
@@ -510,8 +505,7 @@ private slots:
             QAction *edit = hintAction(w);
             QVERIFY2(edit, name);
             QVERIFY(d->extension<QDesignerTaskMenuExtension>(w)->preferredEditAction() != edit);
-            edit->trigger();
-            auto *editor = w->window()->findChild<TqHintEditor *>();
+            auto *editor = openEditor<TqHintEditor>(w, edit);
             QVERIFY(editor);
             QTest::keyClicks(editor->Editor(), QStringLiteral("Lamp"));
             QTest::keyClick(editor->Editor(), Qt::Key_Return);

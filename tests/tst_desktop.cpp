@@ -1,7 +1,4 @@
-// On a real X desktop with a window manager: the application information's
-// taskbar hint, dragging a form without its title bar, and the size guard's
-// limits as the window manager keeps them, and the tray icon in a real
-// notification area (trayer, XEmbed).
+// What only a window manager shows, on a real X desktop (Xvfb, openbox, a tray).
 #include "platform/windowhints.h"
 #include "services/mystd.h"
 #include "services/std2.h"
@@ -90,8 +87,7 @@ private slots:
         form.resize(200, 100);
         auto *info = new TqShowApp(&form);
         info->SetShowOnStatusBar(false);
-        info->QueueLoaded();
-        info->FinishLoading();
+        loaded(info);
         form.show();
         QVERIFY(QTest::qWaitForWindowExposed(&form));
         QVERIFY(SkipsTaskbar(form.windowHandle()));   // as the window manager keeps it
@@ -111,8 +107,7 @@ private slots:
         ShownForm shown;
         QWidget &form = shown.form;
         auto *bar = new TqTitleBar(&form);
-        bar->QueueLoaded();
-        bar->FinishLoading();
+        loaded(bar);
         QTRY_VERIFY(form.frameGeometry().height() > form.height());   // the window manager's frame is on
         const QRect frame = form.frameGeometry();
         const int decoration = frame.height() - form.height();
@@ -153,8 +148,7 @@ private slots:
         guard->SetMinDragWidth(250);
         guard->SetMaxLeft(30);
         guard->SetMaxTop(40);
-        guard->QueueLoaded();
-        guard->FinishLoading();
+        loaded(guard);
         // Alt and the right button resize a window in this window manager.
         const QPoint corner = form.mapToGlobal(QPoint(290, 190));
         userDrag(corner, corner + QPoint(300, 300), QStringLiteral("3"), true);
@@ -204,8 +198,7 @@ private slots:
         ShownForm shown;
         auto *guard = new TqMinMax(&shown.form);
         guard->SetAutoTaskBarAjust(true);
-        guard->QueueLoaded();
-        guard->FinishLoading();
+        loaded(guard);
         QList<int> asked;
         connect(guard, &TqMinMax::OnSizeChange, guard,
                 [&](QObject *, int &, int &, int &, int &, int &dragW, int &dragH, int &left, int &top) {

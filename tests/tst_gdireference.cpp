@@ -1,6 +1,5 @@
-// Replays every call list under data/gdi-reference through TCanvas and the
-// region functions and compares the result with the picture the platform drew,
-// pixel for pixel.
+// Every call list under data/gdi-reference replayed through TCanvas and the
+// regions, and compared pixel for pixel with the picture the platform drew.
 #include "host/tcanvas.h"
 #include "host/tregion.h"
 

@@ -1,7 +1,4 @@
-// The labels: a raised caption with its highlight up-left and its shadow
-// down-right (and the other way lowered), a link that lights while the
-// mouse is over it and clicks, a big caption's outline and shadow, a turned
-// caption that stays inside its control, and the hint window.
+// The labels and the hint window.
 #include "labels/labels.h"
 
 #include "host/tapplication.h"

@@ -1,9 +1,4 @@
-// Splitter panels and the move panel: the bar's limits and thickness rules,
-// the controls on either side moved by exactly the bar's distance, a real
-// drag of the bar, presses passed to the parent; the move panel dragged,
-// held inside a parent panel but not a form, vetoed, and stuck to an edge
-// by placement or by alignment; the tabbed list box's stops, columns and
-// selection.
+// Splitter panels, the move panel and the tabbed list box.
 #include "layout/qsplit.h"
 #include "layout/qtablistbox.h"
 #include "services/mystd.h"

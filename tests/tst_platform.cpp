@@ -1,6 +1,4 @@
-// The platform layer against the system itself: the facts beside what
-// uname, hostname, id and the environment say, and the instance lock and
-// hand-over between real processes (a killed first instance included).
+// The platform layer against the system itself, with real processes.
 #include "platform/instancechannel.h"
 #include "platform/instancelock.h"
 #include "platform/systeminfo.h"

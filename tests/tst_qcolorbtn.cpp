@@ -1,7 +1,4 @@
-// The colour buttons: bevel and caption pixels, the press and click state
-// machine through real mouse and keyboard input, hot tracking, the default,
-// cancel and accelerator keys on a form, the modal result; the see-through
-// button; the gradient face.
+// The colour buttons, the see-through button and the gradient button.
 #include "buttons/qanimate.h"
 #include "testutil.h"
 
@@ -16,12 +13,8 @@ QRgb rgb(TColor c) { return ColorToQRgb(c); }
 // and a pixel more for a pressed caption) that differ from the face.
 QRect textBox(const QImage &img, QRgb face)
 {
-    QRect box;
-    for (int y = 5; y < img.height() - 4; ++y)
-        for (int x = 5; x < img.width() - 4; ++x)
-            if (img.pixel(x, y) != face)
-                box |= QRect(x, y, 1, 1);
-    return box;
+    const QImage inside = img.copy(5, 5, img.width() - 9, img.height() - 9);
+    return pixelsWhere(inside, [face](QRgb p) { return p != face; }).box.translated(5, 5);
 }
 
 void watch(EventLog &log, TControl *c)
@@ -226,13 +219,8 @@ private slots:
         const QImage img = b.RenderImage();
         const QRect text = textBox(img, rgb(clYellow));
         QVERIFY(!text.isEmpty());
-        int white = 0, grey = 0;
-        for (int y = text.top(); y <= text.bottom(); ++y)
-            for (int x = text.left(); x <= text.right(); ++x) {
-                white += img.pixel(x, y) == rgb(clWhite);
-                grey += img.pixel(x, y) == rgb(clGray);
-            }
-        QVERIFY(white > 0 && grey > 0);   // white a pixel down and right, grey over it
+        // White a pixel down and right, grey over it.
+        QVERIFY(pixelsOf(img.copy(text), rgb(clWhite)).count > 0 && pixelsOf(img.copy(text), rgb(clGray)).count > 0);
     }
 
     void seeThroughButtonAndGlass()

@@ -1,6 +1,4 @@
-// The rotary knobs: the mouse angle in every quadrant, the size rules, the
-// picture's pointer, and the value events from real mouse and keyboard
-// input, for one, two and three discs.
+// The rotary knobs, with one, two and three discs.
 #include "instruments/qpanel.h"
 #include "testutil.h"
 

@@ -1,6 +1,4 @@
-// The peak-level meter: blocks filling the length, zone colours at the
-// right blocks, the peak held and then falling, lit and unlit pictures, and
-// no repaint when no block changes.
+// The peak-level meter.
 #include "displays/qseg.h"
 
 #include "testutil.h"

@@ -191,22 +191,6 @@ private slots:
         QCOMPARE(doubles.at(0).at(0).value<QObject *>(), &label);
     }
 
-    void pictureShowsTheCaption()
-    {
-        QWidget form;
-        auto *label = new TqSegmentLabel(&form);
-        label->SetCaption(QStringLiteral("1 8"));
-        form.resize(label->size());
-        const QImage shot = form.grab().toImage();
-        // Element 4 (upper right) is lit in the 1 and the 8, not in the blank.
-        const auto poly = SegmentElementPolygon(4, 1);
-        const QPoint inside(poly[0].X - 1, (poly[0].Y + poly[2].Y) / 2);
-        QCOMPARE(shot.pixel(inside), qRgb(0, 255, 0));
-        QCOMPARE(shot.pixel(inside + QPoint(19, 0)), qRgb(0, 0x20, 0));
-        QCOMPARE(shot.pixel(inside + QPoint(38, 0)), qRgb(0, 255, 0));
-        QCOMPARE(shot.pixel(0, 0), qRgb(0, 0, 0));
-    }
-
     void clockTicks_data()
     {
         QTest::addColumn<bool>("seconds");

@@ -1,6 +1,4 @@
-// The slide bar: thumb placement and the groove and ticks around it, the
-// thumbs' mask convention, and value changes from real mouse and keyboard
-// input with their exact events.
+// The slide bar.
 #include "slidebar/slidebar.h"
 #include "testutil.h"
 

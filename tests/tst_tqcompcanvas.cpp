@@ -1,7 +1,4 @@
-// The component canvas: its three misuses with their messages, a drawing
-// over the control that shows at once and goes at the control's next own
-// paint, a fresh canvas each session, the control found by name and a
-// control that goes away while drawing.
+// The component canvas.
 #include "services/std2.h"
 
 #include "testutil.h"

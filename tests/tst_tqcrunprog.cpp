@@ -1,8 +1,4 @@
-// The program runner with real programs: command lines split without a
-// shell, start failures mapped to result codes, the events in order for
-// each way of waiting, exit codes, the caller's events during a soft wait,
-// no open files handed on, the show command handed on to the program, and
-// a soft wait cut short by the application's end.
+// The program runner, with real programs.
 #include "services/showcommand.h"
 #include "services/std2.h"
 

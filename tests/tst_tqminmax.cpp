@@ -1,6 +1,4 @@
-// The size guard: the limits' consistency, the taskbar on each side, and the
-// form fitted at once; queries answered with OnSizeChange and the system's
-// own proposal.
+// The size guard without a window manager (tst_desktop has one).
 #include "services/std2.h"
 
 #include "testutil.h"
@@ -79,8 +77,7 @@ private slots:
         auto *guard = new TqMinMax(&form);
         guard->SetMinDragWidth(250);
         guard->SetMinDragHeight(150);
-        guard->QueueLoaded();
-        guard->FinishLoading();
+        loaded(guard);
         QCOMPARE(form.minimumSize(), QSize(250, 150));
         QCOMPARE(form.maximumSize(), QSize(600, 400));
         // OnSizeChange changes one query's limits, not the properties.

@@ -1,6 +1,4 @@
-// Application information: the facts beside the system's own tools, the
-// short date rules on the process-wide format, and single instance with
-// hand-over between real processes.
+// Application information and single instance, with real processes.
 #include "host/tformat.h"
 #include "services/mystd.h"
 
@@ -95,8 +93,7 @@ private slots:
         auto *info = new TqShowApp(&form);
         auto *other = new TqShowApp(&dialog);
         for (TqShowApp *c : {info, other}) {
-            c->QueueLoaded();
-            c->FinishLoading();
+            loaded(c);
         }
         Application()->SetMainForm(&form);
         QStringList seen;

@@ -1,7 +1,4 @@
-// The splash form: shown when its form has loaded, gone once the form has
-// shown and the minimum time is over (not before either), gone at once on
-// a click when asked, and its picture: the bitmap or a raised panel with
-// the caption above the bottom edge.
+// The splash form.
 #include "services/mystd.h"
 
 #include "testutil.h"

@@ -1,7 +1,5 @@
-// The title bar: hidden and shown by window flags with the client area, the
-// frame's place, visibility and focus kept; OnChange; the border-style cases;
-// nothing in the designer. Dragging by the client area is tested on a real
-// desktop (tst_desktop).
+// The title bar; dragging by the client area is tested on a real desktop
+// (tst_desktop).
 #include "services/mystd.h"
 
 #include "testutil.h"
@@ -19,8 +17,7 @@ struct LoadedOn
     {
         bar->SetTitleBarOnFormShow(onShow);
         log.watch(bar, &TqTitleBar::OnChange, "change");
-        bar->QueueLoaded();
-        bar->FinishLoading();
+        loaded(bar);
     }
 };
 
@@ -93,8 +90,7 @@ private slots:
             bar = std::make_unique<TqTitleBar>(&form);
         }
         bar->SetTitleBarOnFormShow(false);
-        bar->QueueLoaded();
-        bar->FinishLoading();
+        loaded(bar.get());
         bar->SetTitleBar(false);
         QVERIFY(bar->IsShowTitleBar());
     }

@@ -1,7 +1,5 @@
-// The tray icon's rules without a notification area: the messages' events in
-// order, menus and their AutoPopup, the default action on a double-click,
-// the tool tip's 62 characters, menus forgotten when deleted, the parent
-// form hidden but never the main one. The real tray is in tst_desktop.
+// The tray icon's rules without a notification area; the real tray is in
+// tst_desktop.
 #include "host/tapplication.h"
 #include "services/mystd.h"
 
