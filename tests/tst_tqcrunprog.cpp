@@ -29,9 +29,6 @@ struct Runner
     }
 };
 
-} // namespace
-
-namespace {
 int openFiles() { return int(QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size()); }
 // This process's children that have not been reaped, ended or not, by
 // their process numbers.

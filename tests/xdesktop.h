@@ -5,6 +5,8 @@
 // stopped after it.
 //     QC_XDESKTOP_TEST_MAIN(tst_Something, XDesktop::WithTray)
 
+#include "testutil.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -106,16 +108,9 @@ private:
         }
         return false;
     }
-    static QString run(const QString &program, const QStringList &args)
-    {
-        QProcess p;
-        p.start(program, args);
-        p.waitForFinished(5000);
-        return QString::fromLocal8Bit(p.readAllStandardOutput());
-    }
     static bool rootHas(const char *property)
     {
-        return run(QStringLiteral("xprop"), {"-root", QString::fromLatin1(property)}).contains(QLatin1String("window id"));
+        return runTool(QStringLiteral("xprop"), {"-root", QString::fromLatin1(property)}).contains(QLatin1String("window id"));
     }
     QTemporaryDir FHome;
     QString FDisplay;
