@@ -1,12 +1,17 @@
 #pragma once
 // Small helpers the component tests share.
 
+#include "host/tcolor.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QProcess>
 #include <QStringList>
 #include <QWidget>
 #include <QtTest>
+
+// A colour as the pictures hold it.
+inline QRgb rgb(TColor c) { return ColorToQRgb(c); }
 
 // The events of components as they come, each by a short name, in order:
 //     log.watch(&knob, &TqKnob::OnChange, "change");

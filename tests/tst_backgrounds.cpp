@@ -23,7 +23,6 @@ QPixmap numbered(int w, int h)
     return QPixmap::fromImage(image);
 }
 
-
 } // namespace
 
 class tst_Backgrounds : public QObject

@@ -2,8 +2,7 @@
 #include "host/tbitmap.h"
 #include "host/tregion.h"
 #include "services/std2.h"
-
-#include <QtTest>
+#include "testutil.h"
 
 namespace {
 
@@ -19,23 +18,12 @@ struct Surface
         canvas.Brush.SetColor(clBlue);
     }
     TColor at(int x, int y) const { return canvas.Pixels(x, y); }
-    int count(TColor c) const
-    {
-        int n = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                n += at(x, y) == c;
-        return n;
-    }
+    int count(TColor c) const { return pixelsOf(image, ColorToQRgb(c) | 0xFF000000u).count; }
     // The bounding box of the pixels that are not `background`.
     QRect ink(TColor background = clWhite) const
     {
-        QRect r;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                if (at(x, y) != background)
-                    r |= QRect(x, y, 1, 1);
-        return r;
+        const QRgb ground = ColorToQRgb(background) | 0xFF000000u;
+        return pixelsWhere(image, [ground](QRgb p) { return p != ground; }).box;
     }
 };
 
@@ -168,11 +156,8 @@ private slots:
 
     void frame3D()
     {
-        Surface s;
+        Surface s(24, 24, clBlack);
         TRect r = Rect(1, 1, 11, 9);
-        Frame3D(s.canvas, r, clWhite, clGray, 1);
-        s.image.fill(ColorToQRgb(clBlack));
-        r = Rect(1, 1, 11, 9);
         Frame3D(s.canvas, r, clWhite, clGray, 2);
         QCOMPARE(r, Rect(3, 3, 9, 7));
         QCOMPARE(s.at(1, 1), clWhite);    // top-left corner is the top colour

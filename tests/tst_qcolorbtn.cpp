@@ -7,8 +7,6 @@
 
 namespace {
 
-QRgb rgb(TColor c) { return ColorToQRgb(c); }
-
 // The box of the pixels of the caption's rectangle (5 in from the edges,
 // and a pixel more for a pressed caption) that differ from the face.
 QRect textBox(const QImage &img, QRgb face)

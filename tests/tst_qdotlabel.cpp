@@ -4,8 +4,6 @@
 #include "host/tcodepage.h"
 #include "testutil.h"
 
-#include <QtTest>
-
 namespace {
 QString shown(TqcCustomDotLabel &label)
 {

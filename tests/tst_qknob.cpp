@@ -2,11 +2,7 @@
 #include "instruments/qpanel.h"
 #include "testutil.h"
 
-#include <QtTest>
-
 namespace {
-
-QRgb rgb(TColor c) { return ColorToQRgb(c); }
 
 // Every value event of a knob, by name.
 template <class Knob>

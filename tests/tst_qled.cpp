@@ -1,13 +1,10 @@
 // The LED lamp: its picture at the points the geometry fixes, the lit
 // state and its events, blinking and the timer's life.
 #include "indicators/qled.h"
+#include "testutil.h"
 
 #include <QTimer>
 #include <QtTest>
-
-namespace {
-QRgb rgb(TColor c) { return ColorToQRgb(c); }
-} // namespace
 
 class tst_QLed : public QObject
 {

@@ -3,11 +3,7 @@
 #include "instruments/qpanel.h"
 #include "testutil.h"
 
-#include <QtTest>
-
 namespace {
-
-QRgb rgb(TColor c) { return ColorToQRgb(c); }
 
 void watch(EventLog &log, TqPanelMeter &m)
 {

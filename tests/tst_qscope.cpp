@@ -1,12 +1,7 @@
 // The trace display: samples to pixels, the grid anchored at the right
 // edge, pushing both channels together, the veto, and the size limits.
 #include "instruments/qpanel.h"
-
-#include <QtTest>
-
-namespace {
-QRgb rgb(TColor c) { return ColorToQRgb(c); }
-} // namespace
+#include "testutil.h"
 
 class tst_QScope : public QObject
 {

@@ -4,8 +4,6 @@
 #include "host/tcodepage.h"
 #include "testutil.h"
 
-#include <QtTest>
-
 namespace {
 
 // What a cell shows: its character, then "." or ":" for its lit dots.

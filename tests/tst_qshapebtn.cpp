@@ -3,10 +3,6 @@
 #include "buttons/qanimate.h"
 #include "testutil.h"
 
-namespace {
-QRgb rgb(TColor c) { return ColorToQRgb(c); }
-} // namespace
-
 class tst_QShapeBtn : public QObject
 {
     Q_OBJECT

@@ -2,11 +2,7 @@
 #include "slidebar/slidebar.h"
 #include "testutil.h"
 
-#include <QtTest>
-
 namespace {
-
-QRgb rgb(TColor c) { return ColorToQRgb(c); }
 
 void watch(EventLog &log, TqSlideBar &bar)
 {

@@ -4,8 +4,6 @@
 
 #include "testutil.h"
 
-#include <QtTest>
-
 namespace {
 
 struct Probe : ProbeProcess
