@@ -128,11 +128,7 @@ private slots:
         QTest::mouseClick(&c, Qt::RightButton, Qt::ShiftModifier | Qt::ControlModifier, QPoint(3, 4));
         QCOMPARE(downs.at(0).at(2).toInt() & (TControl::ssShift | TControl::ssCtrl | TControl::ssAlt | TControl::ssRight),
                  TControl::ssShift | TControl::ssCtrl | TControl::ssRight);
-    }
-
-    void enterAndLeave()
-    {
-        HalfControl c;
+        // Entering and leaving.
         QSignalSpy enter(&c, &TControl::OnMouseEnter), leave(&c, &TControl::OnMouseLeave);
         QEnterEvent e(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
         QCoreApplication::sendEvent(&c, &e);
@@ -183,7 +179,7 @@ private slots:
         QVERIFY(child->ShowHint());
     }
 
-    void designTimeCreation()
+    void designModeAndTheComponentsFace()
     {
         HalfControl runtime;
         QVERIFY(!runtime.IsDesigning());
@@ -196,10 +192,7 @@ private slots:
         }
         HalfControl after;
         QVERIFY(!after.IsDesigning());
-    }
-
-    void componentIsItsOwnFace()
-    {
+        // A component shows a face only while designed.
         QWidget form;
         auto *component = new TComponent(&form);
         form.show();

@@ -66,24 +66,22 @@ private slots:
         QCOMPARE(timer.calls, 0);
     }
 
-    void connectingOnTimerStartsTicks()
+    void handlerAndEnabledStartAndStopTicks()
     {
         TqcTimer timer;
         timer.SetInterval(5);
         witnessTicks(3, 5);
-        QSignalSpy spy(&timer, &TqcTimer::OnTimer);   // a spy is a connection too
-        QVERIFY(timer.Ticking());
-        QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= 2, 5000);
-    }
-
-    void disablingStopsTicks()
-    {
-        TqcTimer timer;
-        timer.SetInterval(5);
+        {
+            QSignalSpy spy(&timer, &TqcTimer::OnTimer);   // a spy is a connection too
+            QVERIFY(timer.Ticking());
+            QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= 2, 5000);
+        }
+        // Enabled stops and starts them, also from inside the handler; the
+        // last handler gone, they stop.
         int ticks = 0;
         const auto c = connect(&timer, &TqcTimer::OnTimer, this, [&](QObject *) {
             if (++ticks == 2)
-                timer.SetEnabled(false);   // from inside the handler
+                timer.SetEnabled(false);
         });
         QTRY_COMPARE_WITH_TIMEOUT(ticks, 2, 5000);
         witnessTicks(5, 5);

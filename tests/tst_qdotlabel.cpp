@@ -58,22 +58,13 @@ private slots:
         QCOMPARE(label.DotCell(0)->Look(), DotCharLook(UnicodeToWin1252(cells[0])));
     }
 
-    void sizeAndLayout()
+    void sizeStyleAndGapReachTheCells()
     {
         TqcDotLabel label;
         label.SetSize(4);
         QCOMPARE(label.size(), QSize(506, 58));
         for (int i = 0; i < 11; ++i)
             QCOMPARE(label.DotCell(i)->geometry(), QRect(i * 46, 0, 46, 58));
-        label.SetWidth(10);
-        QCOMPARE(label.width(), 506);
-        label.SetElements(0);
-        QCOMPARE(label.width(), 0);
-    }
-
-    void styleAndGapReachTheCells()
-    {
-        TqcDotLabel label;
         label.SetStyle(qcdsDot);
         label.SetGap(false);
         label.SetLitColor(clYellow);
@@ -84,6 +75,10 @@ private slots:
         QCOMPARE(label.DotCell(10)->Style(), qcdsDot);
         QVERIFY(!label.DotCell(10)->UseGap());
         QCOMPARE(label.DotCell(10)->LitColor(), clYellow);
+        label.SetWidth(10);   // the width follows the size alone
+        QCOMPARE(label.width(), 330);
+        label.SetElements(0);
+        QCOMPARE(label.width(), 0);
     }
 
     void clock_data()

@@ -65,7 +65,7 @@ private slots:
         QCOMPARE(dot(6, 8), kUnlit);
     }
 
-    void styles()
+    void stylesAndGap()
     {
         TqcDotSegment cell;
         cell.SetSize(8);   // extent 9, corner 4
@@ -89,29 +89,15 @@ private slots:
         // A circle loses more of its corner than a rounded square.
         QCOMPARE(round.pixel(origin + QPoint(0, 1)), kLit);
         QCOMPARE(dot.pixel(origin + QPoint(0, 1)), kBlack);
-    }
-
-    void gapOff()
-    {
-        TqcDotSegment cell;
+        // Gap off at Size 4: extent 6 = the pitch, so neighbouring dots touch.
+        cell.SetChar(' ');
         cell.SetSize(4);
         cell.SetStyle(qcdsRect);
         cell.SetGap(false);
-        const QImage img = cell.RenderImage();
-        // Extent 6 = the pitch: neighbouring dots touch.
-        const TDotGeometry g = DotGeometry(4);
-        for (int x = g.X[0]; x < g.X[2]; ++x)
-            QCOMPARE(img.pixel(x, g.Y[0] + 2), kUnlit);
-    }
-
-    void transparent()
-    {
-        TqcDotSegment cell;
-        cell.SetTransparent(true);
-        QVERIFY(!cell.testAttribute(Qt::WA_OpaquePaintEvent));
-        const QImage img = cell.RenderImage(qRgb(9, 9, 9));
-        QCOMPARE(img.pixel(0, 0), qRgb(9, 9, 9));
-        QCOMPARE(img.pixel(1, 1), kUnlit);
+        const QImage touching = cell.RenderImage();
+        const TDotGeometry small = DotGeometry(4);
+        for (int x = small.X[0]; x < small.X[2]; ++x)
+            QCOMPARE(touching.pixel(x, small.Y[0] + 2), kUnlit);
     }
 
     void changeADotCharLook()

@@ -160,7 +160,7 @@ private slots:
         QCOMPARE(log.names, QStringList{"change"});
     }
 
-    void rangeChangesReapplyTheValue()
+    void boundEventsPerDiscAndAfterRangeChanges()
     {
         TqKnob knob;
         EventLog log;
@@ -177,6 +177,14 @@ private slots:
         watch(tripLog, trip);
         trip.SetScaledMax(50);
         QCOMPARE(tripLog.names, (QStringList{"change", "change", "change"}));
+        // Each disc raises its own bound events; a clamped value none.
+        TqTripKnob k;
+        EventLog discs;
+        watch(discs, k);
+        k.SetKnobValue2(100);
+        k.SetKnobValue3(0);
+        k.SetKnobValue(-5);   // clamped: no bound event
+        QCOMPARE(discs.names, (QStringList{"change", "max2", "change", "min3", "change"}));
     }
 
     void innermostDiscUnderThePressWins()
@@ -221,17 +229,6 @@ private slots:
         QTest::keyClick(d.knob, Qt::Key_Q);
         QCOMPARE(log.names, (QStringList{"change", "min"}));
         QCOMPARE(d.knob->Value(), 0);
-    }
-
-    void eachDiscHasItsOwnBoundEvents()
-    {
-        TqTripKnob k;
-        EventLog log;
-        watch(log, k);
-        k.SetKnobValue2(100);
-        k.SetKnobValue3(0);
-        k.SetKnobValue(-5);   // clamped: no bound event
-        QCOMPARE(log.names, (QStringList{"change", "max2", "change", "min3", "change"}));
     }
 };
 

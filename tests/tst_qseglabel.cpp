@@ -58,7 +58,7 @@ private slots:
         QVERIFY(!label.Cell(3));
     }
 
-    void rebuildFreesOldCells()
+    void rebuildFreesOldCellsAndKeepsTheCaption()
     {
         TqSegmentLabel label;
         label.SetCaption(QStringLiteral("42"));
@@ -70,11 +70,7 @@ private slots:
         label.SetElements(12);
         label.SetElements(12);   // unchanged: no rebuild
         QCOMPARE(label.findChildren<TqSegment *>().size(), 12);
-    }
-
-    void zeroCellsKeepTheCaption()
-    {
-        TqSegmentLabel label;
+        // No cells at all: the caption is kept for the next ones.
         label.SetCaption(QStringLiteral("7.5"));
         label.SetElements(0);
         QCOMPARE(label.width(), 0);

@@ -151,7 +151,7 @@ private slots:
         QCOMPARE(seg.height(), 29 * size);
     }
 
-    void sameWidthDoesNothing()
+    void sizeEdgeCases()
     {
         TqSegment seg;
         seg.resize(50, 40);   // from outside, as a layout would
@@ -161,11 +161,7 @@ private slots:
         // The next setter that runs restores the computed extent.
         seg.SetLitColor(clRed);
         QCOMPARE(seg.size(), QSize(19, 29));
-    }
-
-    void sizeWrapsInEightBits()
-    {
-        TqSegment seg;
+        // Size wraps in eight bits.
         seg.SetWidth(19 * 256);
         QCOMPARE(seg.Size(), qSegSize(0));
         QCOMPARE(seg.size(), QSize(0, 0));
