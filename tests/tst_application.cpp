@@ -7,7 +7,6 @@
 
 #include <QLineEdit>
 #include <QToolTip>
-#include <QtTest>
 
 namespace {
 

@@ -3,12 +3,10 @@
 #include "host/tcontrol.h"
 #include "testutil.h"
 
-#include <QApplication>
 #include <QBuffer>
 #include <QEnterEvent>
 #include <QHelpEvent>
 #include <QUiLoader>
-#include <QtTest>
 
 namespace {
 // Paints its left half blue (or `colour`) and leaves the rest to whatever

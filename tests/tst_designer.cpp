@@ -41,7 +41,6 @@
 #include <QRadioButton>
 #include <QUndoStack>
 #include <QUiLoader>
-#include <QtTest>
 
 namespace {
 

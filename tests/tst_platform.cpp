@@ -6,7 +6,6 @@
 #include "testutil.h"
 
 #include <QUuid>
-#include <QtTest>
 
 #include <signal.h>
 

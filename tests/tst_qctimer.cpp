@@ -4,7 +4,6 @@
 #include "testutil.h"
 
 #include <QElapsedTimer>
-#include <QtTest>
 
 // Runs the event loop until a second timer of the same interval has ticked
 // `ticks` times: the proof that a timer under test had that many chances.

@@ -4,7 +4,6 @@
 #include "testutil.h"
 
 #include <QTimer>
-#include <QtTest>
 
 class tst_QLed : public QObject
 {
