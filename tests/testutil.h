@@ -2,6 +2,7 @@
 // Small helpers the component tests share.
 
 #include "host/tcolor.h"
+#include "host/tcomponent.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -57,6 +58,14 @@ inline void waitForRepaintOf(QWidget *w, QRect area)
     w->update(area);
     QTRY_VERIFY(watch.painted);
     w->removeEventFilter(&watch);
+}
+
+// A component made as the designer makes it.
+template <class Component, class... Args>
+std::unique_ptr<Component> madeInDesigner(Args &&...args)
+{
+    DesignTimeCreation designing;
+    return std::make_unique<Component>(std::forward<Args>(args)...);
 }
 
 // A component's Loaded, as a form load runs it once the form is complete.

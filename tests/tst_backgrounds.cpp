@@ -115,11 +115,7 @@ private slots:
         // Designed, the form keeps its own background.
         QWidget designedForm;
         designedForm.resize(100, 100);
-        std::unique_ptr<TqBackground> designed;
-        {
-            DesignTimeCreation designing;
-            designed = std::make_unique<TqBackground>(&designedForm);
-        }
+        const auto designed = madeInDesigner<TqBackground>(&designedForm);
         designed->SetBackType(TqBackground::btSteel);
         loaded(designed.get());
         QCOMPARE(designedForm.grab().toImage().pixel(50, 50), designedForm.palette().color(QPalette::Window).rgb());
@@ -172,11 +168,7 @@ private slots:
         QTRY_COMPARE(errors, QStringList{"Division by zero"});
         blend.hide();
         // In the designer a dashed outline finds the control.
-        std::unique_ptr<TqNWTileMap> designed;
-        {
-            DesignTimeCreation designing;
-            designed = std::make_unique<TqNWTileMap>();
-        }
+        const auto designed = madeInDesigner<TqNWTileMap>();
         designed->SetBounds(0, 0, 30, 30);
         const QImage outline = designed->RenderImage(qRgb(255, 255, 255));
         QCOMPARE(outline.pixel(1, 0), qRgb(0, 0, 0));

@@ -72,11 +72,7 @@ private slots:
         info.SetHintPause(120);
         QCOMPARE(Application()->HintPause(), 120);
         // Designing a form leaves the designer's own application alone.
-        std::unique_ptr<TqShowApp> designed;
-        {
-            DesignTimeCreation designing;
-            designed = std::make_unique<TqShowApp>();
-        }
+        const auto designed = madeInDesigner<TqShowApp>();
         designed->SetTitle(QStringLiteral("Designed"));
         designed->SetHintPause(900);
         QCOMPARE(designed->Title(), QStringLiteral("Designed"));

@@ -84,11 +84,7 @@ private slots:
     void designerLeavesTheFormAlone()
     {
         QWidget form;
-        std::unique_ptr<TqTitleBar> bar;
-        {
-            DesignTimeCreation designing;
-            bar = std::make_unique<TqTitleBar>(&form);
-        }
+        const auto bar = madeInDesigner<TqTitleBar>(&form);
         bar->SetTitleBarOnFormShow(false);
         loaded(bar.get());
         bar->SetTitleBar(false);
