@@ -6,6 +6,7 @@
 #include "testutil.h"
 
 #include <QLineEdit>
+#include <QStyle>
 #include <QToolTip>
 
 namespace {
@@ -28,6 +29,13 @@ struct Form
             qWarning("the form did not become active");
     }
 };
+
+// Runs the event loop past the time after which Qt's own tool tip would
+// show, and past a short hint pause several times over.
+void waitPastQtsOwnTipTime()
+{
+    QTest::qWait(QApplication::style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay) + 200);
+}
 
 } // namespace
 
@@ -55,7 +63,7 @@ private slots:
         // part at once.
         Application()->SetHintPause(60000);
         QTest::mouseMove(form.tipped, QPoint(50, 50));
-        QTest::qWait(900);
+        waitPastQtsOwnTipTime();
         QVERIFY(!QToolTip::isVisible());
         QCOMPARE(hints, QStringList{"Supply voltage in volts"});
         // A short one, counted from the mouse's last move; the tip is the short part.
@@ -73,11 +81,12 @@ private slots:
         QTest::mouseMove(form.tipped, QPoint(40, 40));
         QTRY_VERIFY(QToolTip::isVisible());
         QTRY_VERIFY(!QToolTip::isVisible());
-        // With hints off nothing shows.
+        // With hints off nothing shows, whatever the pause.
+        Application()->SetHintPause(30);
         Application()->SetShowHint(false);
         QTest::mouseMove(form.plain, QPoint(50, 50));
         QTest::mouseMove(form.tipped, QPoint(50, 50));
-        QTest::qWait(100);
+        waitPastQtsOwnTipTime();
         QVERIFY(!QToolTip::isVisible());
     }
 
@@ -104,7 +113,7 @@ private slots:
         tipControl = nullptr;
         QTest::mouseMove(form.tipped, QPoint(50, 50));
         QTRY_COMPARE(tipControl, form.tipped);   // asked, and refused
-        QTest::qWait(50);
+        QCoreApplication::processEvents();
         QVERIFY(!QToolTip::isVisible());
     }
 
