@@ -5,8 +5,6 @@
 #include "tcontrol.h"
 #include "tform.h"
 
-// The bevels of a panel over `r`, outer first, then the border in `color`,
-// then the inner: `r` comes back as the rectangle inside them.
 // Whether a drag of a panel or bar from `press` to `release` (both in the
 // dragged control) counts as unmoved: the platform's splitter test, kept
 // as it is, a sum across and a difference down.
@@ -15,6 +13,8 @@ inline bool DragUnmoved(QPoint press, QPoint release)
     return release.x() + press.x() == 0 && release.y() - press.y() == 0;
 }
 
+// The bevels of a panel over `r`, outer first, then the border in `color`,
+// then the inner: `r` comes back as the rectangle inside them.
 void PaintPanelBevels(TCanvas &canvas, TRect &r, TPanelBevel outer, TPanelBevel inner, int bevelWidth,
                       int borderWidth, TColor color);
 
