@@ -567,9 +567,7 @@ private slots:
     {
         const QString dir = HelpDirectory();
         QVERIFY2(!dir.isEmpty(), "the help of the build tree was not found");
-        std::vector<TComponentEntry> entries = Components();
-        entries.insert(entries.end(), CodeOnlyComponents().begin(), CodeOnlyComponents().end());
-        for (const TComponentEntry &e : entries) {
+        for (const TComponentEntry &e : AllComponents()) {
             const bool codeOnly = e.page == kCodeOnlyPage;
             QFile page(dir + QStringLiteral("/html/") + (codeOnly ? HelpPageOf(e) : HelpPage(e.helpContext)));
             QVERIFY2(page.open(QIODevice::ReadOnly), qPrintable(page.fileName()));

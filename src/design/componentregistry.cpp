@@ -404,7 +404,12 @@ const TComponentEntry *FindComponent(const QObject *object)
     return FindComponent(QString::fromLatin1(object->metaObject()->className()));
 }
 
-const std::vector<TComponentEntry> &CodeOnlyComponents() { return kCodeOnly; }
+std::vector<TComponentEntry> AllComponents()
+{
+    std::vector<TComponentEntry> all = kComponents;
+    all.insert(all.end(), kCodeOnly.begin(), kCodeOnly.end());
+    return all;
+}
 
 QStringList ReadOnlyProperties(const TComponentEntry &entry)
 {

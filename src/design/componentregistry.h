@@ -34,10 +34,12 @@ QString PageName(int page);
 
 // In widget-box order.
 const std::vector<TComponentEntry> &Components();
-// The classes made in code only, on a page of their own in the help (no
-// widget-box group, help topic 0).
+// The page of the classes made in code only: on a page of their own in the
+// help (no widget-box group, help topic 0).
 constexpr int kCodeOnlyPage = 3;
-const std::vector<TComponentEntry> &CodeOnlyComponents();
+// Every class of the collection, each with a help page: the widget box's
+// in its order, then those made in code.
+std::vector<TComponentEntry> AllComponents();
 const TComponentEntry *FindComponent(const QString &className);
 // The entry of the object's class; null for a class not in the collection.
 const TComponentEntry *FindComponent(const QObject *object);

@@ -145,9 +145,7 @@ int main(int argc, char **argv)
     QString keywords, files;
     QTextStream kw(&keywords), fl(&files);
     int lastPage = -1;
-    std::vector<TComponentEntry> entries = Components();
-    entries.insert(entries.end(), CodeOnlyComponents().begin(), CodeOnlyComponents().end());
-    for (const TComponentEntry &e : entries) {
+    for (const TComponentEntry &e : AllComponents()) {
         const QString cls = QString::fromLatin1(e.className);
         const QString file = HelpPageOf(e);
         if (!writeFile(htmlDir + QLatin1Char('/') + file, componentPage(e, htmlDir)))
