@@ -3,7 +3,25 @@
 #include "tapplication.h"
 #include "tcontrol.h"
 
+#include <optional>
+
 namespace {
+
+// The control's range, where it holds a number.
+std::optional<TControl::TAccessibleRange> rangeOf(const TControl *control)
+{
+    TControl::TAccessibleRange range;
+    if (control->AccessibleRange(range))
+        return range;
+    return std::nullopt;
+}
+
+// One number of the control's range; none where it holds no number.
+QVariant rangeValue(const TControl *control, double TControl::TAccessibleRange::*number)
+{
+    const auto range = rangeOf(control);
+    return range ? QVariant((*range).*number) : QVariant();
+}
 
 QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 {
@@ -36,8 +54,8 @@ QString TControlAccessible::text(QAccessible::Text t) const
     case QAccessible::Name:
         return control()->AccessibleName();
     case QAccessible::Value: {
-        TControl::TAccessibleRange range;
-        return control()->AccessibleRange(range) ? QString::number(range.Value) : QString();
+        const auto range = rangeOf(control());
+        return range ? QString::number(range->Value) : QString();
     }
     case QAccessible::Description: {
         if (!widget()->accessibleDescription().isEmpty())
@@ -56,63 +74,57 @@ QAccessible::Role TControlAccessible::role() const
 
 void *TControlAccessible::interface_cast(QAccessible::InterfaceType t)
 {
-    TControl::TAccessibleRange range;
-    if (t == QAccessible::ValueInterface && control()->AccessibleRange(range))
+    if (t == QAccessible::ValueInterface && rangeOf(control()))
         return static_cast<QAccessibleValueInterface *>(this);
     return QAccessibleWidget::interface_cast(t);
 }
 
 QVariant TControlAccessible::currentValue() const
 {
-    TControl::TAccessibleRange range;
-    return control()->AccessibleRange(range) ? QVariant(range.Value) : QVariant();
+    return rangeValue(control(), &TControl::TAccessibleRange::Value);
 }
 
 void TControlAccessible::setCurrentValue(const QVariant &value)
 {
-    TControl::TAccessibleRange range;
-    if (control()->AccessibleRange(range) && !range.ReadOnly && value.canConvert<double>())
-        control()->SetAccessibleValue(qBound(range.Min, value.toDouble(), range.Max));
+    const auto range = rangeOf(control());
+    if (range && !range->ReadOnly && value.canConvert<double>())
+        control()->SetAccessibleValue(qBound(range->Min, value.toDouble(), range->Max));
 }
 
 QVariant TControlAccessible::maximumValue() const
 {
-    TControl::TAccessibleRange range;
-    return control()->AccessibleRange(range) ? QVariant(range.Max) : QVariant();
+    return rangeValue(control(), &TControl::TAccessibleRange::Max);
 }
 
 QVariant TControlAccessible::minimumValue() const
 {
-    TControl::TAccessibleRange range;
-    return control()->AccessibleRange(range) ? QVariant(range.Min) : QVariant();
+    return rangeValue(control(), &TControl::TAccessibleRange::Min);
 }
 
 QVariant TControlAccessible::minimumStepSize() const
 {
-    TControl::TAccessibleRange range;
-    return control()->AccessibleRange(range) ? QVariant(range.Step) : QVariant();
+    return rangeValue(control(), &TControl::TAccessibleRange::Step);
 }
 
 QStringList TControlAccessible::actionNames() const
 {
     QStringList names = QAccessibleWidget::actionNames();
-    TControl::TAccessibleRange range;
     const QAccessible::Role role = control()->AccessibleRole();
+    const auto range = rangeOf(control());
     if (role == QAccessible::Button || role == QAccessible::Link)
         names.prepend(pressAction());
-    else if (control()->AccessibleRange(range) && !range.ReadOnly)
+    else if (range && !range->ReadOnly)
         names << increaseAction() << decreaseAction();
     return names;
 }
 
 void TControlAccessible::doAction(const QString &actionName)
 {
-    TControl::TAccessibleRange range;
+    const auto range = rangeOf(control());
     if (actionName == pressAction())
         control()->AccessiblePress();
-    else if ((actionName == increaseAction() || actionName == decreaseAction()) && control()->AccessibleRange(range)
-             && !range.ReadOnly)
-        setCurrentValue(range.Value + (actionName == increaseAction() ? range.Step : -range.Step));
+    else if ((actionName == increaseAction() || actionName == decreaseAction()) && range && !range->ReadOnly)
+        setCurrentValue(range->Value + (actionName == increaseAction() ? range->Step : -range->Step));
     else
         QAccessibleWidget::doAction(actionName);
 }
