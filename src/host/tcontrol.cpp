@@ -1,31 +1,28 @@
 #include "tcontrol.h"
 
-#include <cstring>
-#include <optional>
-
 #include "tapplication.h"
+#include "tcodepage.h"
 #include "tcontrolaccessible.h"
-
-#include <QGuiApplication>
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <algorithm>
-#include <QDrag>
-#include <QMenu>
-#include <QEnterEvent>
-#include <QMimeData>
-#include <QMouseEvent>
 #include <QCursor>
-#include <QMetaMethod>
-#include <QPainter>
-#include <QPointer>
+#include <QDrag>
+#include <QEnterEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QPaintEngine>
+#include <QPainter>
 #include <QPixmap>
+#include <QPointer>
 
-#include "tcodepage.h"
+#include <algorithm>
+#include <cstring>
+#include <optional>
 
 namespace {
 TControl::TShiftState shiftState(Qt::KeyboardModifiers mods, Qt::MouseButtons buttons)

@@ -15,8 +15,6 @@
 
 #include <utility>
 
-
-
 namespace ControlStyles {
 enum : quint32 {
     csAcceptsControls = 0x1,
