@@ -157,9 +157,10 @@ void TqcRunProg::RunThis(const QString &commandLine)
         // The caller's environment with the show command in place of any
         // the caller was given.
         const QByteArray show = QByteArray(kShowCommandVariable) + '=' + QByteArray::number(int(FShow));
+        const size_t nameLength = sizeof(kShowCommandVariable) - 1;
         std::vector<char *> envp;
         for (char **e = environ; *e; ++e)
-            if (std::strncmp(*e, show.constData(), sizeof(kShowCommandVariable)) != 0)
+            if (std::strncmp(*e, kShowCommandVariable, nameLength) != 0 || (*e)[nameLength] != '=')
                 envp.push_back(*e);
         envp.push_back(const_cast<char *>(show.constData()));
         envp.push_back(nullptr);
