@@ -27,7 +27,7 @@ namespace {
 
 // Fusion in its own light palette, or in a dark one; the library's system
 // colours (clBtnFace, clWindow ...) follow either.
-void applyTheme(bool dark, TqBackground *wallpaper)
+void applyPalette(bool dark)
 {
     QStyle *fusion = QApplication::setStyle(QStringLiteral("Fusion"));
     QPalette p = fusion ? fusion->standardPalette() : QApplication::palette();
@@ -56,10 +56,13 @@ void applyTheme(bool dark, TqBackground *wallpaper)
         p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(120, 120, 120));
     }
     QApplication::setPalette(p);
-    if (wallpaper) {
-        wallpaper->SetColor(dark ? 0x00403830 : 0x00F4F0EC);
-        wallpaper->SetEndColor(dark ? 0x00181410 : 0x00D8CCC0);
-    }
+}
+
+// The gallery's wallpaper in colours to go with the palette.
+void tintWallpaper(TqBackground *wallpaper, bool dark)
+{
+    wallpaper->SetColor(dark ? 0x00403830 : 0x00F4F0EC);
+    wallpaper->SetEndColor(dark ? 0x00181410 : 0x00D8CCC0);
 }
 
 } // namespace
@@ -110,7 +113,7 @@ int main(int argc, char **argv)
         return app.exec();
     }
 
-    applyTheme(parser.isSet(darkOption), nullptr);
+    applyPalette(parser.isSet(darkOption));
     QWidget window;
     window.setWindowTitle(QApplication::applicationName());
     auto *layout = new QGridLayout(&window);
@@ -130,15 +133,17 @@ int main(int argc, char **argv)
     layout->addWidget(bitmapsSection(&window), 6, 0, 1, 2);
     layout->addWidget(labelsSection(&window), 7, 0, 1, 2);
     layout->setRowStretch(8, 1);
-    // The gallery's own wallpaper: a light blend behind every section.
+    // The gallery's own wallpaper: a blend behind every section, in the
+    // palette's tone.
     auto *wallpaper = new TqBackground(&window);
     wallpaper->SetBackType(TqBackground::btBlend);
-    wallpaper->SetColor(0x00F4F0EC);
-    wallpaper->SetEndColor(0x00D8CCC0);
+    tintWallpaper(wallpaper, parser.isSet(darkOption));
     wallpaper->SetBands(64);
-    applyTheme(parser.isSet(darkOption), wallpaper);
     dark->setChecked(parser.isSet(darkOption));
-    QObject::connect(dark, &QCheckBox::toggled, wallpaper, [wallpaper](bool on) { applyTheme(on, wallpaper); });
+    QObject::connect(dark, &QCheckBox::toggled, wallpaper, [wallpaper](bool on) {
+        applyPalette(on);
+        tintWallpaper(wallpaper, on);
+    });
     info->QueueLoaded();
     info->FinishLoading();
     wallpaper->QueueLoaded();
