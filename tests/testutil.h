@@ -40,24 +40,27 @@ void waitForTicks(Timer *timer, int n)
     QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= n, 10000);
 }
 
+// Counts the events of one type that reach an object.
+struct EventCounter : QObject
+{
+    QEvent::Type type;
+    int count = 0;
+    EventCounter(QObject *watched, QEvent::Type t) : type(t) { watched->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *e) override
+    {
+        count += e->type() == type;
+        return false;
+    }
+};
+
 // Repaints `area` of a shown widget and runs the event loop until that paint
 // is done; paints pending elsewhere in its window are done in the same pass.
 // Keep `area` clear of the controls a test watches.
 inline void waitForRepaintOf(QWidget *w, QRect area)
 {
-    struct Watch : QObject
-    {
-        bool painted = false;
-        bool eventFilter(QObject *, QEvent *e) override
-        {
-            painted |= e->type() == QEvent::Paint;
-            return false;
-        }
-    } watch;
-    w->installEventFilter(&watch);
+    EventCounter paints(w, QEvent::Paint);
     w->update(area);
-    QTRY_VERIFY(watch.painted);
-    w->removeEventFilter(&watch);
+    QTRY_VERIFY(paints.count > 0);
 }
 
 // A component made as the designer makes it.
@@ -89,6 +92,25 @@ struct ShownOnForm
         if (!QTest::qWaitForWindowExposed(&form))
             qWarning("the form was not shown");
         control->setFocus();
+    }
+};
+
+// A shown, active form with a widget that has a tip and one that has none.
+struct TipForm
+{
+    QWidget window;
+    QWidget *tipped = new QWidget(&window);
+    QWidget *plain = new QWidget(&window);
+    TipForm()
+    {
+        window.resize(200, 100);
+        tipped->setGeometry(0, 0, 100, 100);
+        tipped->setToolTip(QStringLiteral("Volts|Supply voltage in volts"));
+        plain->setGeometry(100, 0, 100, 100);
+        window.show();
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            qWarning("the form did not become active");
     }
 };
 

@@ -11,25 +11,6 @@
 
 namespace {
 
-// A form with a widget that has a tip and one that has none, shown and active.
-struct Form
-{
-    QWidget window;
-    QWidget *tipped = new QWidget(&window);
-    QWidget *plain = new QWidget(&window);
-    Form()
-    {
-        window.resize(200, 100);
-        tipped->setGeometry(0, 0, 100, 100);
-        tipped->setToolTip(QStringLiteral("Volts|Supply voltage in volts"));
-        plain->setGeometry(100, 0, 100, 100);
-        window.show();
-        window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&window))
-            qWarning("the form did not become active");
-    }
-};
-
 // Runs the event loop past the time after which Qt's own tool tip would
 // show, and past a short hint pause several times over.
 void waitPastQtsOwnTipTime()
@@ -54,7 +35,7 @@ private slots:
 
     void tipsOnTheApplicationsTiming()
     {
-        Form form;
+        TipForm form;
         QTest::mouseMove(form.plain, QPoint(50, 50));
         QStringList hints;
         QObject context;
@@ -92,7 +73,7 @@ private slots:
 
     void showHintMayChangeOrStopTheTip()
     {
-        Form form;
+        TipForm form;
         QObject context;
         bool allow = true;
         QWidget *tipControl = nullptr;

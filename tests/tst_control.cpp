@@ -330,10 +330,7 @@ private slots:
     {
         QWidget form;
         form.resize(40, 20);
-        form.setAutoFillBackground(true);
-        QPalette pal;
-        pal.setColor(QPalette::Window, Qt::red);
-        form.setPalette(pal);
+        form.setPalette(QPalette(Qt::red));
         auto *below = new HalfControl(&form);           // an earlier sibling: blue on the left
         below->setGeometry(0, 0, 40, 20);
         auto *frame = new FocusFrame(&form);

@@ -1,4 +1,5 @@
 // What only a window manager shows, on a real X desktop (Xvfb, openbox, a tray).
+#include "buttons/qdesktop.h"
 #include "platform/windowhints.h"
 #include "services/mystd.h"
 #include "services/std2.h"
@@ -204,6 +205,25 @@ private slots:
         QCOMPARE(asked, (QList<int>{0, 0, 1024, 769 - 23}));
         QCOMPARE(shown.form.maximumSize(), QSize(1024, 746));
         QCOMPARE(guard->MaxDragHeight(), 400);   // the property stays
+    }
+
+    void desktopControlShowsTheScreenBehindTheForm()
+    {
+        // Something on the screen first: a red window larger than the form,
+        // whatever frames the window manager adds.
+        QWidget behind;
+        behind.setGeometry(100, 100, 500, 500);
+        behind.setPalette(QPalette(Qt::red));
+        behind.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&behind));
+        QWidget form;
+        form.setGeometry(200, 200, 200, 200);
+        auto *desktop = new TqDesktop(&form);
+        desktop->SetBounds(20, 20, 50, 50);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(desktop->Grabbed());
+        QCOMPARE(desktop->RenderImage().pixel(25, 25), qRgb(255, 0, 0));
     }
 };
 

@@ -35,19 +35,15 @@ private slots:
         QCOMPARE(b->size(), QSize(89, 33));
         const int R = 88, B = 32;
         QImage img = b->RenderImage();
-        QCOMPARE(img.pixel(0, 10), rgb(clBtnShadow));       // outer left and top
-        QCOMPARE(img.pixel(10, 0), rgb(clBtnShadow));
+        QCOMPARE(img.pixel(10, 0), rgb(clBtnShadow));       // outer left and top
         QCOMPARE(img.pixel(1, 10), rgb(clBtnHighlight));    // inner left and top
         QCOMPARE(img.pixel(R - 1, 10), rgb(clBtnShadow));   // inner right and bottom
-        QCOMPARE(img.pixel(10, B - 1), rgb(clBtnShadow));
-        QCOMPARE(img.pixel(R, 10), rgb(clBlack));           // outer right and bottom
-        QCOMPARE(img.pixel(10, B), rgb(clBlack));
+        QCOMPARE(img.pixel(10, B), rgb(clBlack));           // outer right and bottom
         QCOMPARE(img.pixel(40, 20), rgb(b->Color()));       // the face, the form's colour
         QCOMPARE(b->Color(), ColorToRGB(b->ParentBrushColor()));
         QTest::mousePress(b, Qt::LeftButton, {}, QPoint(40, 16));
         QVERIFY(b->Pressed());
         img = b->RenderImage();
-        QCOMPARE(img.pixel(0, 10), rgb(clBtnShadow));       // the same in both states
         QCOMPARE(img.pixel(1, 10), rgb(clBlack));
         QCOMPARE(img.pixel(R, 10), rgb(clBtnHighlight));
         QTest::mouseRelease(b, Qt::LeftButton, {}, QPoint(40, 16));
@@ -247,7 +243,6 @@ private slots:
         b->SetEndColor(clWhite);
         QImage up = b->RenderImage();
         QVERIFY(qRed(up.pixel(40, 4)) < 40 && qRed(up.pixel(40, 28)) > 215);   // dark to light downward
-        QVERIFY(qRed(up.pixel(40, 10)) < qRed(up.pixel(40, 20)));
         QTest::mousePress(b, Qt::LeftButton, {}, QPoint(10, 10));
         const QImage down = b->RenderImage();
         for (int y = 3; y < 28; ++y)

@@ -235,17 +235,12 @@ private slots:
 
     void primesAndFactorials()
     {
-        for (int n : {0, 1, 2, 3, 5, 7, 13, 7919, 2147483647})
+        for (int n : {0, 1, 2, 7919, 2147483647, -7})   // below 2, or negative, no divisor is tried
             QVERIFY2(IsPrime(n), qPrintable(QString::number(n)));
-        for (int n : {4, 9, 15, 7917, 1000000})
-            QVERIFY2(!IsPrime(n), qPrintable(QString::number(n)));
-        QVERIFY(IsPrime(-7));   // no divisor is tried
-        QCOMPARE(double(Root(3, 27)), 3.0);
+        QVERIFY(!IsPrime(4) && !IsPrime(7917));
         QCOMPARE(double(Root(2, -16)), 4.0);
         QCOMPARE(double(Factorial(-5)), 1.0);
-        QCOMPARE(double(Factorial(10)), 3628800.0);
-        QVERIFY(std::isfinite(Factorial(1754)));
-        QVERIFY(std::isinf(Factorial(1755)));
+        QVERIFY(std::isfinite(Factorial(1754)) && std::isinf(Factorial(1755)));
     }
 };
 

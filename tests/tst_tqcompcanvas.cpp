@@ -15,9 +15,7 @@ struct Panel
         control->setObjectName(QStringLiteral("dial"));
         control->setGeometry(10, 10, 50, 40);
         control->setAutoFillBackground(true);
-        QPalette p = control->palette();
-        p.setColor(QPalette::Window, Qt::white);
-        control->setPalette(p);
+        control->setPalette(QPalette(Qt::white));
         form.show();
         if (!QTest::qWaitForWindowExposed(&form))
             qWarning("the form was not shown");

@@ -7,22 +7,6 @@ class tst_TqMinMax : public QObject
 {
     Q_OBJECT
 private slots:
-    void limitsOnlyEverRise()
-    {
-        TSizeLimits l;
-        l.MinDragWidth = 800;
-        MakeLimitsConsistent(l);
-        QCOMPARE(l.MaxWidth, 800);
-        QCOMPARE(l.MaxDragWidth, 800);
-        l.MaxHeight = 500;   // pulls the drag height up, never the other way
-        l.MaxDragHeight = 450;
-        MakeLimitsConsistent(l);
-        QCOMPARE(l.MaxDragHeight, 500);
-        l.MaxDragHeight = 900;
-        MakeLimitsConsistent(l);
-        QCOMPARE(l.MaxHeight, 500);
-    }
-
     void taskbarOnEachSide()
     {
         const QRect screen(0, 0, 1024, 768);
