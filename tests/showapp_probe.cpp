@@ -1,9 +1,10 @@
 // A program with a TqShowApp on its form, for the single-instance tests: it
 // prints "first" or "second", then "another" for every later start it hears
-// of. With "nobring" a second start keeps the first where it is. With
+// of. With "nobring" a second start keeps the first where it is; with "two"
+// a second form has a TqShowApp of its own, and both answer. With
 // "state FILE" it only follows its start-up show command and writes the
 // form's state to FILE ("normal", "minimized" or "maximized").
-//     showapp_probe [nobring]
+//     showapp_probe [nobring | two]
 //     showapp_probe state FILE
 #include "services/mystd.h"
 
@@ -15,7 +16,7 @@
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    QWidget form;
+    QWidget form, second;
     auto say = [](const char *what) {
         std::printf("%s\n", what);
         std::fflush(stdout);
@@ -34,17 +35,22 @@ int main(int argc, char **argv)
                                                              : "normal");
         return 0;
     }
-    info->SetOnlyOneInstance(true);
+    QList<TqShowApp *> components{info};
+    if (app.arguments().contains(QStringLiteral("two")))
+        components << new TqShowApp(&second);
     const bool bring = !app.arguments().contains(QStringLiteral("nobring"));
-    QObject::connect(info, &TqShowApp::OnSecondInstance, [&](QObject *, bool &toFront) {
-        toFront = bring;
-        say("second");
-    });
-    QObject::connect(info, &TqShowApp::OnAnotherInstance, [&] { say("another"); });
-    info->QueueLoaded();
-    info->FinishLoading();
-    if (!info->Closing())
-        say("first");
+    for (TqShowApp *c : components) {
+        c->SetOnlyOneInstance(true);
+        QObject::connect(c, &TqShowApp::OnSecondInstance, [&](QObject *, bool &toFront) {
+            toFront = bring;
+            say("second");
+        });
+        QObject::connect(c, &TqShowApp::OnAnotherInstance, [&] { say("another"); });
+        c->QueueLoaded();
+        c->FinishLoading();
+        if (!c->Closing())
+            say("first");
+    }
     form.show();
     return app.exec();
 }

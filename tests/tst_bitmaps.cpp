@@ -196,6 +196,7 @@ private slots:
             {blGlyphLeft, -1, QRect(20, 12, 16, 16), QRect(40, 0, 40, 40)},
             {blGlyphRight, -1, QRect(64, 12, 16, 16), QRect(20, 0, 40, 40)},
             {blGlyphTop, -1, QRect(42, 3, 16, 16), QRect(0, 23, 100, 14)},
+            {blGlyphBottom, -1, QRect(42, 21, 16, 16), QRect(0, 3, 100, 14)},
             {blGlyphLeft, 5, QRect(5, 12, 16, 16), QRect(25, 0, 40, 40)},
         };
         for (const Case &c : cases) {

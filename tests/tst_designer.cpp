@@ -508,7 +508,7 @@ private slots:
             QStringLiteral("<widget class=\"TqSegmentLabel\" name=\"label\"/><widget class=\"TqcTimer\" name=\"timer\"/>"), "label"));
         QList<THelpRequest> requests;
         SetHelpViewer([&](const THelpRequest &r) { requests << r; return true; });
-        for (const auto &[name, page] : {std::pair{"label", "tqsegmentlabel.html"}, std::pair{"timer", "tqctimer.html"}}) {
+        for (const auto &[name, context, page] : {std::tuple{"label", 13, "tqsegmentlabel.html"}, std::tuple{"timer", 49, "tqctimer.html"}}) {
             // The verbs; then, for the label, its hint editor and the colours
             // dialog, each after a separator.
             const QList<QAction *> actions =
@@ -519,10 +519,10 @@ private slots:
             actions[0]->trigger();
             actions[1]->trigger();
             QCOMPARE(requests.size(), 2);
+            QCOMPARE(requests[0].context, context);
             QCOMPARE(requests[0].page, QLatin1String(page));
             QCOMPARE(requests[1].page, QStringLiteral("index.html"));
         }
-        QCOMPARE(requests[0].context, 49);
         // No viewer: the user is told, nothing else happens.
         SetHelpViewer([](const THelpRequest &) { return false; });
         QVERIFY(!ShowHelpTopic(13, &d->top));

@@ -84,6 +84,29 @@ private slots:
             }
         }
     }
+
+    void mouseLandsWhereTheGeometrySays()
+    {
+        // A triangle button: a press in its box but outside the shape is not
+        // its own; inside it is, in logical coordinates at any ratio.
+        ShownOnForm<TqShapeBtn> shown;
+        TqShapeBtn *button = shown.control;
+        button->SetShape(TqShapeBtn::sbUpTriangle);
+        button->SetBounds(20, 20, 60, 60);
+        QSignalSpy clicks(button, &TControl::OnClick);
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(3, 3));   // the empty corner
+        QCOMPARE(clicks.count(), 0);
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(30, 50));
+        QCOMPARE(clicks.count(), 1);
+        // A knob dragged to its top: the value of that angle.
+        auto *knob = new TqKnob(&shown.form);
+        knob->SetBounds(100, 100, 57, 57);
+        knob->show();
+        QTest::mousePress(knob, Qt::LeftButton, {}, QPoint(20, 20));
+        dragTo(knob, QPoint(28, 4));
+        QTest::mouseRelease(knob, Qt::LeftButton, {}, QPoint(28, 4));
+        QCOMPARE(knob->Value(), 50);   // the top of the dial: the middle of 0..100
+    }
 };
 
 int main(int argc, char **argv)

@@ -1,5 +1,5 @@
 // The dot label and dot clock: one cell a character, sizes, styles passed
-// down and the clock's cells (its ticks are the segment clock's own).
+// down, forwarded events and the clock's cells.
 #include "displays/qseg.h"
 #include "host/tcodepage.h"
 #include "testutil.h"
@@ -101,6 +101,23 @@ private slots:
         QCOMPARE(shown(clock), cells);
         clock.SetPriority(TqcTimer::tpLowest);
         QCOMPARE(clock.Timer()->Priority(), TqcTimer::tpLowest);
+    }
+
+    void clockTicksOncePerMinute()
+    {
+        QTime now(8, 59, 58);
+        TClockWork::SetDefaultSource([&now] { return now; });
+        TqcDotClock clock;
+        QSignalSpy changes(&clock, &TqcDotClock::OnTimeChange);
+        clock.Timer()->SetInterval(5);
+        now = QTime(8, 59, 59);
+        waitForTicks(clock.Timer(), 2);
+        QCOMPARE(changes.count(), 0);
+        now = QTime(9, 0, 0);
+        QTRY_COMPARE(changes.count(), 1);
+        QCOMPARE(shown(clock), QStringLiteral("09:00"));
+        waitForTicks(clock.Timer(), 2);
+        QCOMPARE(changes.count(), 1);
     }
 };
 

@@ -97,6 +97,21 @@ private slots:
         for (int x = small.X[0]; x < small.X[2]; ++x)
             QCOMPARE(touching.pixel(x, small.Y[0] + 2), kUnlit);
     }
+
+    void changeADotCharLook()
+    {
+        const TDotLook original = DotCharLook('Z');
+        TqcDotSegment cell;
+        cell.SetChar('Z');
+        ChangeADotCharLook('Z', TDotLook(1) << 1);
+        QCOMPARE(cell.Look(), original);   // nothing changes on a cell
+        cell.SetChar('Y');
+        cell.SetChar('Z');
+        QCOMPARE(cell.Look(), TDotLook(1) << 1);
+        ChangeADotCharLook(10, 2);         // no entry below 32
+        QCOMPARE(DotCharLook(10), TDotLook(0));
+        ChangeADotCharLook('Z', original);
+    }
 };
 
 QTEST_MAIN(tst_QcDotSegment)

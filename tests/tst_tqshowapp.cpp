@@ -4,6 +4,8 @@
 
 #include "testutil.h"
 
+#include <signal.h>
+
 namespace {
 
 struct Probe : ProbeProcess
@@ -133,6 +135,34 @@ private slots:
             QVERIFY(other.process.waitForFinished(10000));
             QCOMPARE(survivor.process.state(), QProcess::Running);
         }
+    }
+
+    void killedFirstLeavesNoLock()
+    {
+        {
+            Probe first;
+            QCOMPARE(first.line(), QStringLiteral("first"));
+            ::kill(pid_t(first.process.processId()), SIGKILL);
+            QVERIFY(first.process.waitForFinished(10000));
+        }
+        Probe next;
+        QCOMPARE(next.line(), QStringLiteral("first"));
+        Probe later;
+        QCOMPARE(later.line(), QStringLiteral("second"));
+        QCOMPARE(next.line(), QStringLiteral("another"));   // the name the killed one left is taken over
+    }
+
+    // Within one program every lock of the key is the same one: two
+    // components are both first, and both hear of a later start.
+    void everyComponentOfTheFirstHears()
+    {
+        Probe first({QStringLiteral("two")});
+        QCOMPARE(first.line(), QStringLiteral("first"));
+        QCOMPARE(first.line(), QStringLiteral("first"));
+        Probe later;
+        QCOMPARE(later.line(), QStringLiteral("second"));
+        QCOMPARE(first.line(), QStringLiteral("another"));
+        QCOMPARE(first.line(), QStringLiteral("another"));
     }
 
     void secondStartMayLeaveTheFirstAlone()
