@@ -71,11 +71,9 @@ private slots:
         // The flags say the same.
         QCOMPARE(b.CaptionFlags(), unsigned(DT_BOTTOM | DT_RIGHT));
         // Pressed, it moves a pixel down and right.
-        QWidget form;
-        auto *pressed = new TqNWColorBtn(&form);
+        ShownOnForm<TqNWColorBtn> shown;
+        TqNWColorBtn *pressed = shown.control;
         pressed->SetCaption(QStringLiteral("Wg"));
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
         QTest::mousePress(pressed, Qt::LeftButton, {}, QPoint(10, 10));
         QCOMPARE(textBox(pressed->RenderImage(), rgb(pressed->Color())), centre.translated(1, 1));
         QTest::mouseRelease(pressed, Qt::LeftButton, {}, QPoint(10, 10));

@@ -47,7 +47,6 @@ private slots:
         QVERIFY(form.isVisible());
         QCOMPARE(form.focusWidget(), edit);   // the form's focus stays where it was
         on.bar->SetTitleBar(true);
-        QVERIFY(on.bar->IsShowTitleBar());
         QCOMPARE(form.size(), QSize(300, 200));
         QCOMPARE(on.log.names, (QStringList{"change", "change", "change"}));
     }
