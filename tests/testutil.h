@@ -63,6 +63,13 @@ inline void waitForRepaintOf(QWidget *w, QRect area)
     QTRY_VERIFY(paints.count > 0);
 }
 
+// Shows a window and waits until it is on the screen.
+inline bool shown(QWidget *window)
+{
+    window->show();
+    return QTest::qWaitForWindowExposed(window);
+}
+
 // A component made as the designer makes it.
 template <class Component, class... Args>
 std::unique_ptr<Component> madeInDesigner(Args &&...args)
@@ -88,8 +95,7 @@ struct ShownOnForm
     ShownOnForm()
     {
         form.resize(200, 200);
-        form.show();
-        if (!QTest::qWaitForWindowExposed(&form))
+        if (!shown(&form))
             qWarning("the form was not shown");
         control->setFocus();
     }

@@ -150,8 +150,7 @@ private slots:
         QWidget form;
         auto *edit = new QLineEdit(&form);
         Application()->SetMainForm(&form);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         QObject context;
         connect(Application(), &TApplication::OnMessage, &context, [&](QObject *receiver, QEvent *e, bool &handled) {
             handled = receiver == edit && e->type() == QEvent::KeyPress

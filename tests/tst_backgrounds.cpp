@@ -92,8 +92,7 @@ private slots:
             canvas->FillRect(Rect(0, 0, 10, 10));
         });
         loaded(back);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         resizes = 0;
         QImage shot = form.grab().toImage();
         QCOMPARE(shot.pixel(150, 0), qRgb(255, 0, 0));
@@ -134,8 +133,7 @@ private slots:
         back->SetColor(clYellow);
         back->SetEndColor(clYellow);
         loaded(back);
-        main.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&main));
+        QVERIFY(shown(&main));
         QCOMPARE(back->Target(), area->viewport());
         const QImage shot = area->viewport()->grab().toImage();
         QCOMPARE(shot.pixel(shot.width() - 5, shot.height() - 5), qRgb(255, 255, 0));
@@ -184,8 +182,7 @@ private slots:
         auto *cover = new TqNWBlendPaint(&form);
         cover->SetBounds(50, 25, 100, 50);
         cover->SetPassMouseOn(true);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         QSignalSpy clicked(button, &QPushButton::clicked);
         QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, QPoint(100, 50));
         QCOMPARE(clicked.count(), 1);

@@ -222,8 +222,7 @@ private slots:
         QWidget form;
         form.resize(200, 200);
         auto *c = new SquareControl(&form);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         c->bounds = 0;
         c->SetBounds(10, 10, 40, 30);        // from code: the width changed, so it wins
         QCOMPARE(c->geometry(), QRect(10, 10, 40, 40));
@@ -314,8 +313,7 @@ private slots:
         b->SetControlStyle(b->ControlStyle() | csOpaque);
         a->setGeometry(0, 0, 40, 40);
         b->setGeometry(50, 0, 40, 40);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         QTRY_VERIFY(a->paints > 0 && b->paints > 0);
         const int pa = a->paints, pb = b->paints;
         a->Update();                       // nothing pending: nothing painted

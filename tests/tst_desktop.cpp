@@ -84,14 +84,12 @@ private slots:
         auto *info = new TqShowApp(&form);
         info->SetShowOnStatusBar(false);
         loaded(info);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         QVERIFY(SkipsTaskbar(form.windowHandle()));   // as the window manager keeps it
         QCOMPARE(form.windowType(), Qt::Window);        // still a plain window
         // A new native window keeps the hint.
         form.setWindowFlag(Qt::WindowStaysOnTopHint, true);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         QTRY_VERIFY(SkipsTaskbar(form.windowHandle()));
         // Shown, a form is put back on the taskbar through the window manager.
         QVERIFY(SetSkipTaskbar(form.windowHandle(), false));
@@ -214,14 +212,12 @@ private slots:
         QWidget behind;
         behind.setGeometry(100, 100, 500, 500);
         behind.setPalette(QPalette(Qt::red));
-        behind.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&behind));
+        QVERIFY(shown(&behind));
         QWidget form;
         form.setGeometry(200, 200, 200, 200);
         auto *desktop = new TqDesktop(&form);
         desktop->SetBounds(20, 20, 50, 50);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         QVERIFY(desktop->Grabbed());
         QCOMPARE(desktop->RenderImage().pixel(25, 25), qRgb(255, 0, 0));
     }

@@ -57,8 +57,7 @@ private slots:
             c->move(x % 400, (x / 400) * 100);
             x += 105;
         }
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         const qreal ratio = form.devicePixelRatioF();
         QCOMPARE(ratio, qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
         const QImage screen = form.grab().toImage();

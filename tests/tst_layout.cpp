@@ -103,8 +103,7 @@ private slots:
         area->setGeometry(0, 0, 200, 150);
         auto *panel = new TqMovePanel(area);
         panel->SetBounds(100, 20, 50, 30);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         drag(panel, QPoint(10, 10), QPoint(90, 10));   // right edge past the parent's
         QCOMPARE(panel->Left(), 200 - 50 - 1);
         drag(panel, QPoint(10, 10), QPoint(-400, -400));
@@ -130,8 +129,7 @@ private slots:
         form.resize(400, 300);
         auto *panel = new TqMovePanel(&form);
         panel->SetBounds(100, 100, 50, 30);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         panel->SetStickWhere(TqMovePanel::stRight);
         QCOMPARE(panel->Left(), 350);
         drag(panel, QPoint(10, 10), QPoint(-90, 40));   // back at the edge after every drag

@@ -194,8 +194,7 @@ private slots:
         QDialog dialog;
         auto *b = new TqColorBtn(&dialog);
         b->SetModalResult(TqColorBtn::mrOk);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QVERIFY(shown(&dialog));
         QTest::mouseClick(b, Qt::LeftButton, {}, QPoint(10, 10));
         QCOMPARE(dialog.result(), int(TqColorBtn::mrOk));
         QVERIFY(!dialog.isVisible());

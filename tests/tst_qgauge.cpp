@@ -112,8 +112,7 @@ private slots:
     void repaintOnlyWhenThePercentageChanges()
     {
         TqGauge gauge;
-        gauge.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&gauge));
+        QVERIFY(shown(&gauge));
         gauge.SetMax(1000);
         gauge.SetValue(500);
         QSignalSpy paints(&gauge, &TqGauge::OnPaint);

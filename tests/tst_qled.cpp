@@ -82,8 +82,7 @@ private slots:
     void colourRepaintsEvenWhenUnchanged()
     {
         TqLed led;
-        led.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&led));
+        QVERIFY(shown(&led));
         QSignalSpy paints(&led, &TqLed::OnPaint);
         led.WriteLedColor(led.LEDColor());   // at once, without comparing
         QCOMPARE(paints.count(), 1);

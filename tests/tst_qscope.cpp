@@ -69,8 +69,7 @@ private slots:
     void beforePushCanVeto()
     {
         TqScope scope;
-        scope.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&scope));
+        QVERIFY(shown(&scope));
         QSignalSpy paints(&scope, &TqScope::OnPaint);
         connect(&scope, &TqScope::OnBeforePush, [](QObject *, bool &doPush) { doPush = false; });
         scope.SetIn1(60);

@@ -1,9 +1,7 @@
 // The sixteen-segment cell: its defaults, setter rules, element geometry,
 // character table and picture.
 #include "displays/qseg.h"
-
-#include <QApplication>
-#include <QtTest>
+#include "testutil.h"
 
 namespace {
 
@@ -225,8 +223,7 @@ private slots:
     void unchangedValuesDoNotRepaint()
     {
         CountingSegment seg;
-        seg.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&seg));
+        QVERIFY(shown(&seg));
         QTRY_VERIFY(seg.paints > 0);
         QCoreApplication::processEvents();
         seg.paints = 0;

@@ -33,8 +33,7 @@ private slots:
         shape->SetBounds(0, 0, 60, 60);
         shape->SetShape(TqShapeBtn::sbUpTriangle);
         form.resize(100, 100);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         QSignalSpy under(beneath, &TControl::OnClick), over(shape, &TControl::OnClick);
         QTest::mouseClick(shape, Qt::LeftButton, {}, QPoint(5, 5));     // beside the triangle
         QCOMPARE(under.count(), 1);

@@ -34,8 +34,7 @@ private slots:
         form.setGeometry(100, 120, 300, 200);
         LoadedOn on(&form);
         QCOMPARE(on.log.names, QStringList{"change"});   // shown as loaded: no change, still told
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QVERIFY(shown(&form));
         form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&form));
         edit->setFocus();
