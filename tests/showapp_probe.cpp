@@ -1,10 +1,11 @@
 // A program with a TqShowApp on its form, for the single-instance tests: it
 // prints "first" or "second", then "another" for every later start it hears
 // of. With "nobring" a second start keeps the first where it is; with "two"
-// a second form has a TqShowApp of its own, and both answer. With
+// a second form has a TqShowApp of its own, and both answer; with "free"
+// it does not ask for a single instance (and says "first" as it runs). With
 // "state FILE" it only follows its start-up show command and writes the
 // form's state to FILE ("normal", "minimized" or "maximized").
-//     showapp_probe [nobring | two]
+//     showapp_probe [nobring | two | free]
 //     showapp_probe state FILE
 #include "services/mystd.h"
 
@@ -40,7 +41,7 @@ int main(int argc, char **argv)
         components << new TqShowApp(&second);
     const bool bring = !app.arguments().contains(QStringLiteral("nobring"));
     for (TqShowApp *c : components) {
-        c->SetOnlyOneInstance(true);
+        c->SetOnlyOneInstance(!app.arguments().contains(QStringLiteral("free")));
         QObject::connect(c, &TqShowApp::OnSecondInstance, [&](QObject *, bool &toFront) {
             toFront = bring;
             say("second");

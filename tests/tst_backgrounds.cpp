@@ -173,6 +173,29 @@ private slots:
         QCOMPARE(outline.pixel(15, 15), qRgb(255, 255, 255));
     }
 
+    // Made on a form, a blend painter starts magenta and following its
+    // parent; the parent's next colour is its own, and its own colour ends
+    // the following.
+    void blendPaintersStartMagentaAndFollowTheirParent()
+    {
+        TqBlendPaint parent;
+        parent.SetColor(clBlue);
+        auto *windowed = new TqBlendPaint(&parent);
+        auto *plain = new TqNWBlendPaint(&parent);
+        for (TControl *blend : {static_cast<TControl *>(windowed), static_cast<TControl *>(plain)}) {
+            QCOMPARE(blend->Color(), TColor(0x00FF00FF));
+            QVERIFY(blend->ParentColor());
+        }
+        windowed->SetEndColor(clRed);
+        parent.SetColor(clRed);
+        QCOMPARE(windowed->Color(), clRed);
+        QCOMPARE(windowed->RenderImage().pixel(0, 0), rgb(clRed));
+        plain->SetColor(clLime);
+        QVERIFY(!plain->ParentColor());
+        parent.SetColor(clYellow);
+        QCOMPARE(plain->Color(), clLime);
+    }
+
     void mouseFallsThroughANonWindowedPainter()
     {
         QWidget form;

@@ -207,6 +207,22 @@ private slots:
         TRect n = Rect(0, 0, 0, 0);
         s.canvas.DrawText(QStringLiteral("&File"), n, DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX);
         QVERIFY(n.Width() > m.Width());
+
+        // One line wins over word breaks: measured and drawn on one line.
+        const QString words = QStringLiteral("one two three four five");
+        TRect narrow = Rect(0, 0, 30, 60);
+        const int single = s.canvas.DrawText(words, narrow, DT_CALCRECT | DT_SINGLELINE | DT_WORDBREAK);
+        QCOMPARE(single, s.canvas.TextHeight(words));
+        QCOMPARE(narrow.Width(), s.canvas.TextWidth(words));
+        TRect wrapped = Rect(0, 0, 30, 60);
+        QVERIFY(s.canvas.DrawText(words, wrapped, DT_CALCRECT | DT_WORDBREAK) > single);
+        Surface line(200, 60);
+        line.canvas.Brush.SetStyle(bsClear);
+        line.canvas.Font.SetColor(clBlack);
+        TRect cell = Rect(0, 0, 60, 60);
+        line.canvas.DrawText(words, cell, DT_SINGLELINE | DT_WORDBREAK | DT_NOCLIP);
+        QVERIFY(line.ink().height() <= single);
+        QVERIFY(line.ink().width() > 60);
     }
 };
 

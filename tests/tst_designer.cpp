@@ -551,7 +551,7 @@ private slots:
             const QImage picture(dir + QStringLiteral("/html/") + QString::fromLatin1(e.className).toLower() + QStringLiteral(".png"));
             QVERIFY2(!picture.isNull(), e.className);
             // Every property and event the component publishes is on its page.
-            const std::unique_ptr<QWidget> made(e.create(nullptr));
+            const std::unique_ptr<QWidget> made = CreateAlone(e, false);
             const QMetaObject *meta = made->metaObject();
             for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i)
                 QVERIFY2(html.contains(QStringLiteral("<code>%1</code>").arg(QLatin1String(meta->property(i).name()))),

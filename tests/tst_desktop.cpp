@@ -34,20 +34,22 @@ void userDrag(QPoint from, QPoint to, const QString &button = QStringLiteral("1"
         xdo({"keyup", "alt"});
 }
 
-// The frame's place as the X server has it: the window's place less the
-// frame the window manager says it drew (Qt may learn of a new frame late).
-QPoint frameOnScreen(QWidget *form)
+// The frame the window manager says it drew: left, right, top, bottom.
+QList<int> frameExtents(QWidget *form)
 {
-    const QString id = QString::number(form->winId());
-    const QString info = runTool("xwininfo", {"-id", id});
-    const QString extents = runTool("xprop", {"-id", id, "_NET_FRAME_EXTENTS"});
-    const QRegularExpressionMatch x = QRegularExpression(QStringLiteral("Absolute upper-left X: +(-?\\d+)")).match(info);
-    const QRegularExpressionMatch y = QRegularExpression(QStringLiteral("Absolute upper-left Y: +(-?\\d+)")).match(info);
-    const QRegularExpressionMatch frame =
-        QRegularExpression(QStringLiteral("= (\\d+), (\\d+), (\\d+), (\\d+)")).match(extents);
-    if (!x.hasMatch() || !y.hasMatch() || !frame.hasMatch())
-        return QPoint(-1, -1);
-    return QPoint(x.captured(1).toInt() - frame.captured(1).toInt(), y.captured(1).toInt() - frame.captured(3).toInt());
+    const QString extents = runTool("xprop", {"-id", QString::number(form->winId()), "_NET_FRAME_EXTENTS"});
+    const QRegularExpressionMatch m = QRegularExpression(QStringLiteral("= (\\d+), (\\d+), (\\d+), (\\d+)")).match(extents);
+    if (!m.hasMatch())
+        return {};
+    return {m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt(), m.captured(4).toInt()};
+}
+
+// Maximised as Qt and the window manager both have it.
+bool maximisedByTheWindowManager(QWidget *form)
+{
+    const QString state = runTool("xprop", {"-id", QString::number(form->winId()), "_NET_WM_STATE"});
+    return form->isMaximized() && state.contains(QLatin1String("_NET_WM_STATE_MAXIMIZED_VERT"))
+        && state.contains(QLatin1String("_NET_WM_STATE_MAXIMIZED_HORZ"));
 }
 
 struct ShownForm
@@ -104,9 +106,15 @@ private slots:
         loaded(bar);
         QTRY_VERIFY(form.frameGeometry().height() > form.height());   // the window manager's frame is on
         const QRect frame = form.frameGeometry();
-        const int decoration = frame.height() - form.height();
+        const QList<int> withTitle = frameExtents(&form);
+        QVERIFY(withTitle.at(2) > withTitle.at(0));   // a title bar over the border
         bar->SetTitleBar(false);
-        QTRY_COMPARE(form.frameGeometry().height(), frame.height() - decoration);
+        // A thin border all round is left, the same on every side.
+        QTRY_VERIFY(frameExtents(&form).value(2, INT_MAX) < withTitle.at(2));
+        const QList<int> bordered = frameExtents(&form);
+        QVERIFY(bordered.at(0) > 0);
+        QCOMPARE(bordered, QList<int>(4, bordered.at(0)));
+        QTRY_COMPARE(form.frameGeometry().height(), form.height() + 2 * bordered.at(0));
         QCOMPARE(form.size(), QSize(300, 200));
         QTRY_COMPARE(form.frameGeometry().topLeft(), frame.topLeft());
         QVERIFY(form.isVisible());
@@ -117,6 +125,7 @@ private slots:
         // Not with the title bar back, nor when not allowed.
         bar->SetTitleBar(true);
         QTRY_COMPARE(form.frameGeometry().height(), frame.height());
+        QCOMPARE(frameExtents(&form), withTitle);
         QCOMPARE(form.size(), QSize(300, 200));
         const QPoint titled = form.pos();
         userDrag(form.mapToGlobal(QPoint(150, 100)), form.mapToGlobal(QPoint(210, 140)));
@@ -129,6 +138,29 @@ private slots:
         userDrag(form.mapToGlobal(QPoint(150, 100)), form.mapToGlobal(QPoint(210, 140)));
         QTest::qWait(200);
         QCOMPARE(form.pos(), bare);
+    }
+
+    // A tool window of a fixed size keeps its title bar, and each hide
+    // still takes the caption's height off.
+    void fixedToolWindowLosesTheCaptionsHeight()
+    {
+        QWidget tool(nullptr, Qt::Tool);
+        tool.setGeometry(200, 150, 300, 200);
+        tool.setFixedSize(300, 200);
+        QVERIFY(shown(&tool));
+        QTRY_VERIFY(frameExtents(&tool).value(2) > frameExtents(&tool).value(0));
+        auto *bar = new TqTitleBar(&tool);
+        bar->SetTitleBarOnFormShow(true);
+        loaded(bar);
+        const int caption = frameExtents(&tool).at(2);   // the frame above the client area
+        QList<int> heights;
+        for (const bool show : {false, false, true}) {
+            bar->SetTitleBar(show);
+            heights << tool.height();
+        }
+        QCOMPARE(heights, (QList<int>{200 - caption, 200 - 2 * caption, 200 - 2 * caption}));
+        QTRY_COMPARE(tool.geometry().height(), 200 - 2 * caption);
+        QCOMPARE(FormBorderStyle(&tool), bsToolWindow);
     }
 
     void sizeGuardLimitsTheUsersDragAndTheMaximisedPlace()
@@ -151,10 +183,22 @@ private slots:
         QCOMPARE(form.size(), QSize(400, 300));
         userDrag(form.mapToGlobal(QPoint(390, 290)), form.mapToGlobal(QPoint(50, 50)), QStringLiteral("3"), true);
         QTRY_COMPARE(form.width(), 250);
-        // Maximised, it takes the guard's place and size.
+        // Maximised, it takes the guard's size and stays maximised, also
+        // through a change of the limits and the taskbar option; restored,
+        // it is back where it was.
+        const QRect normal = form.geometry();
         form.showMaximized();
         QTRY_COMPARE(form.geometry().size(), QSize(350, 260));
-        QTRY_COMPARE(frameOnScreen(&form), QPoint(30, 40));
+        QVERIFY(maximisedByTheWindowManager(&form));
+        guard->SetMaxWidth(320);
+        QTRY_COMPARE(form.geometry().size(), QSize(320, 260));
+        QVERIFY(maximisedByTheWindowManager(&form));
+        guard->SetAutoTaskBarAjust(true);
+        QTRY_VERIFY(maximisedByTheWindowManager(&form));
+        QTRY_COMPARE(form.geometry().size(), QSize(320, 260));
+        form.showNormal();
+        QTRY_COMPARE(form.geometry(), normal);
+        QVERIFY(!form.isMaximized());
     }
 
     void trayIconInARealNotificationArea()

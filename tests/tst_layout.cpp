@@ -95,6 +95,47 @@ private slots:
         QCOMPARE(presses.count, 1);
     }
 
+    // A press passed on reaches the parent as the panel had it.
+    void passedPressKeepsItsCoordinates()
+    {
+        ShownOnForm<TqVerSplit> shown;
+        auto *inner = new TqVerSplit(shown.control);
+        inner->SetBounds(50, 50, 150, 150);
+        inner->SetPassMouseOn(true);
+        inner->show();
+        QSignalSpy down(shown.control, &TControl::OnMouseDown);
+        QTest::mouseClick(inner, Qt::LeftButton, {}, QPoint(100, 120));
+        QCOMPARE(down.count(), 1);
+        QCOMPARE(down.at(0).at(0).value<QObject *>(), shown.control);
+        QCOMPARE(down.at(0).at(3).toInt(), 100);
+        QCOMPARE(down.at(0).at(4).toInt(), 120);
+    }
+
+    // Raised after every change of size, by code or by alignment, and only then.
+    void panelsTellTheirResize()
+    {
+        QWidget form;
+        form.resize(300, 200);
+        auto *split = new TqHorSplit(&form);
+        auto *panel = new TqMovePanel(&form);
+        EventLog log;
+        log.watch(split, &TqVerSplit::OnResize, "split");
+        log.watch(panel, &TqMovePanel::OnResize, "panel");
+        connect(split, &TqVerSplit::OnResize, &form, [split](QObject *sender) {
+            QCOMPARE(sender, split);
+            QCOMPARE(split->Height(), 120);   // after the change
+        });
+        split->SetHeight(120);
+        split->SetHeight(120);
+        split->SetLeft(7);
+        panel->SetBounds(10, 10, 50, 30);
+        panel->SetBounds(20, 20, 50, 30);
+        QCOMPARE(log.names, (QStringList{"split", "panel"}));
+        panel->SetStickOldStyle(false);
+        panel->SetStickWhere(TqMovePanel::stRight);   // aligned: as high as the form
+        QCOMPARE(log.names, (QStringList{"split", "panel", "panel"}));
+    }
+
     void movePanelDraggedHeldAndVetoed()
     {
         QWidget form;
@@ -142,6 +183,12 @@ private slots:
         QCOMPARE(panel->Align(), alRight);
         form.resize(500, 300);
         QTRY_COMPARE(panel->Left(), 450);
+        // Dragged away, it goes back to its alignment.
+        drag(panel, QPoint(10, 10), QPoint(-200, 40));
+        QCOMPARE(panel->geometry(), QRect(450, 0, 50, 300));
+        QCOMPARE(panel->Align(), alRight);
+        panel->SetBounds(0, 50, 60, 10);   // any new bounds: the width stays, the place does not
+        QCOMPARE(panel->geometry(), QRect(440, 0, 60, 300));
         // A veto still ends at the edge.
         connect(panel, &TqMovePanel::OnBeforeUpdate, panel, [](QObject *, int &X, int &, int &, int &) { X = 0; });
         panel->SetStickOldStyle(true);

@@ -43,6 +43,16 @@ private slots:
         QCOMPARE(cells(label), (QStringList{"Q", "u", "o", "v", "a", "r", "S", "o", "f", "t", " "}));
     }
 
+    // The label says it covers every pixel; the clock keeps the base's style.
+    void onlyTheLabelIsOpaque()
+    {
+        TqSegmentLabel label;
+        TqSegmentClock clock;
+        QVERIFY(label.ControlStyle() & csOpaque);
+        QVERIFY(!(clock.ControlStyle() & csOpaque));
+        QVERIFY(!clock.testAttribute(Qt::WA_OpaquePaintEvent));
+    }
+
     void cellsTouchAndFollowSize()
     {
         TqSegmentLabel label;

@@ -19,8 +19,10 @@ struct Panel
         form.show();
         if (!QTest::qWaitForWindowExposed(&form))
             qWarning("the form was not shown");
+        waitForRepaintOf(&form, QRect(80, 50, 5, 5));   // nothing left to paint
     }
-    QRgb at(int x, int y) { return form.grab().toImage().pixel(x, y); }
+    // What the screen shows (a grab would paint the control anew).
+    QRgb at(int x, int y) { return form.screen()->grabWindow(form.winId()).toImage().pixel(x, y); }
 };
 
 QByteArray messageOf(const std::function<void()> &call)
@@ -71,6 +73,43 @@ private slots:
         QCOMPARE(panel.at(15, 15), qRgb(255, 0, 0));       // still there after the session
         panel.control->update();                            // until the control paints itself
         QTRY_COMPARE(panel.at(15, 15), qRgb(255, 255, 255));
+    }
+
+    // The control's own paint removes the drawing: one asked for right
+    // after EndPaint, and one during a session (which then goes on).
+    void theControlsPaintRemovesTheDrawing()
+    {
+        Panel panel;
+        TqCompCanvas canvas(&panel.form);
+        canvas.SetControl(panel.control);
+        const auto drawRed = [&] {
+            canvas.Canvas()->Brush.SetColor(clRed);
+            canvas.Canvas()->FillRect(Rect(0, 0, 10, 10));
+        };
+        canvas.StartPaint();
+        drawRed();
+        canvas.EndPaint();
+        QCOMPARE(panel.at(15, 15), qRgb(255, 0, 0));
+        panel.control->update();
+        QTRY_COMPARE(panel.at(15, 15), qRgb(255, 255, 255));
+
+        canvas.StartPaint();
+        drawRed();
+        QTRY_COMPARE(panel.at(15, 15), qRgb(255, 0, 0));
+        panel.control->repaint();
+        QCOMPARE(panel.at(15, 15), qRgb(255, 255, 255));
+        QVERIFY(canvas.Drawing());
+        canvas.Canvas()->Brush.SetColor(clBlue);   // the session goes on
+        canvas.Canvas()->FillRect(Rect(20, 0, 30, 10));
+        QTRY_COMPARE(panel.at(35, 15), qRgb(0, 0, 255));
+        QCOMPARE(panel.at(15, 15), qRgb(255, 255, 255));
+        canvas.EndPaint();
+
+        // A new session does not wipe what the last one drew.
+        canvas.StartPaint();
+        waitForRepaintOf(&panel.form, QRect(80, 50, 5, 5));
+        QCOMPARE(panel.at(35, 15), qRgb(0, 0, 255));
+        canvas.EndPaint();
     }
 
     void controlByNameAndGone()

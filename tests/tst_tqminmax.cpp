@@ -49,9 +49,13 @@ private slots:
         QCOMPARE(guard->MaxWidth(), 800);
         QCOMPARE(guard->MaxDragWidth(), 800);
         QCOMPARE(form.width(), 800);
-        // A guard on no form has none to fit.
-        TqMinMax alone;
-        QVERIFY_THROWS_EXCEPTION(EComponentError, alone.SetMaxWidth(10));
+        // A guard on no form has none to fit: it cannot even be made.
+        QVERIFY_THROWS_EXCEPTION(EComponentError, TqMinMax(nullptr));
+        auto *taken = new TqMinMax(&form);
+        taken->setParent(nullptr);
+        const std::unique_ptr<TqMinMax> alone(taken);
+        QVERIFY_THROWS_EXCEPTION(EComponentError, alone->SetMaxWidth(10));
+        QVERIFY_THROWS_EXCEPTION(EComponentError, loaded(alone.get()));
     }
 
     void queriesAnsweredPerQuery()

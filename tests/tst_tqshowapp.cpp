@@ -1,4 +1,5 @@
 // Application information and single instance, with real processes.
+#include "host/tapplication.h"
 #include "host/tformat.h"
 #include "services/mystd.h"
 
@@ -63,6 +64,32 @@ private slots:
         TqShowApp info;
         info.QueueLoaded();
         QVERIFY_THROWS_EXCEPTION(EComponentError, info.FinishLoading());
+    }
+
+    // Started minimised, the form waits on the taskbar with ShowMainForm
+    // false; the user's restore shows it and sets ShowMainForm again, in
+    // place of the application's OnRestore that once.
+    void minimisedStartComesBack()
+    {
+        QWidget form;
+        Application()->SetMainForm(&form);
+        auto *info = new TqShowApp(&form);
+        info->SetUseCmdShow(true);
+        QSignalSpy restores(Application(), &TApplication::OnRestore);
+        qputenv("QC_SHOW_COMMAND", "7");
+        loaded(info);
+        qunsetenv("QC_SHOW_COMMAND");
+        QVERIFY(!info->ShowMainForm());
+        QVERIFY(form.windowState() & Qt::WindowMinimized);
+        QTRY_VERIFY(form.isVisible());
+        form.setWindowState(Qt::WindowNoState);   // the user restores it
+        QVERIFY(info->ShowMainForm());
+        QVERIFY(form.isVisible());
+        QCOMPARE(form.windowState(), Qt::WindowNoState);
+        QCOMPARE(restores.count(), 0);
+        form.setWindowState(Qt::WindowMinimized);
+        form.setWindowState(Qt::WindowNoState);
+        QCOMPARE(restores.count(), 1);   // the application's own again
     }
 
     void applicationEventsAndSettings()
@@ -161,6 +188,23 @@ private slots:
         QCOMPARE(later.line(), QStringLiteral("second"));
         QCOMPARE(first.line(), QStringLiteral("another"));
         QCOMPARE(first.line(), QStringLiteral("another"));
+    }
+
+    // A first start that did not ask for one instance still holds the lock:
+    // a later one that asks ends, one that does not runs beside it.
+    void firstWithoutTheFlagStillHoldsTheLock()
+    {
+        Probe free({QStringLiteral("free")});
+        QCOMPARE(free.line(), QStringLiteral("first"));
+        Probe later;
+        QCOMPARE(later.line(), QStringLiteral("second"));
+        QVERIFY(later.process.waitForFinished(10000));
+        Probe alsoFree({QStringLiteral("free")});
+        QCOMPARE(alsoFree.line(), QStringLiteral("first"));
+        QCOMPARE(alsoFree.process.state(), QProcess::Running);
+        free.process.kill();
+        QVERIFY(free.process.waitForFinished(10000));
+        QVERIFY(!free.process.canReadLine());   // it never heard of the later start
     }
 
     void secondStartMayLeaveTheFirstAlone()

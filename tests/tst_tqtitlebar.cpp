@@ -65,18 +65,26 @@ private slots:
         QVERIFY(!fixed.bar->IsShowTitleBar());
         QCOMPARE(dialog.windowType(), Qt::Dialog);
         QCOMPARE(dialog.size(), QSize(200, 100));
-        // A tool window keeps its title bar; each hide takes its height off.
-        QWidget tool(nullptr, Qt::Tool);
-        tool.resize(200, 150);
-        LoadedOn palette(&tool);
-        const int caption = TitleBarHeight(&tool);
-        QVERIFY(caption > 0);
-        palette.bar->SetTitleBar(false);
-        palette.bar->SetTitleBar(false);
-        QCOMPARE(tool.height(), 150 - 2 * caption);
-        QVERIFY(palette.bar->IsShowTitleBar());
-        palette.bar->SetTitleBar(true);
-        QCOMPARE(tool.height(), 150 - 2 * caption);
+        // A tool window keeps its title bar; each hide takes its height off,
+        // whether it is sizable or of a fixed size (which it stays).
+        for (const bool fixedSize : {false, true}) {
+            QWidget tool(nullptr, Qt::Tool);
+            tool.resize(200, 150);
+            if (fixedSize)
+                tool.setFixedSize(200, 150);
+            QCOMPARE(FormBorderStyle(&tool), fixedSize ? bsToolWindow : bsSizeToolWin);
+            LoadedOn palette(&tool);
+            const int caption = TitleBarHeight(&tool);
+            QVERIFY(caption > 0);
+            palette.bar->SetTitleBar(false);
+            QCOMPARE(tool.height(), 150 - caption);
+            palette.bar->SetTitleBar(false);
+            QCOMPARE(tool.height(), 150 - 2 * caption);
+            QVERIFY(palette.bar->IsShowTitleBar());
+            palette.bar->SetTitleBar(true);
+            QCOMPARE(tool.height(), 150 - 2 * caption);
+            QCOMPARE(FormBorderStyle(&tool), fixedSize ? bsToolWindow : bsSizeToolWin);
+        }
     }
 
     void designerLeavesTheFormAlone()

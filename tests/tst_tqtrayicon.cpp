@@ -116,6 +116,17 @@ private slots:
         onMain->SetPopupMenu(menu);
         delete menu;
         QVERIFY(!onMain->PopupMenu());
+
+        // No form: none at construction, and the hide-form message, run
+        // from the event loop, reports it to the application.
+        QVERIFY_THROWS_EXCEPTION(EComponentError, TqTrayIcon(nullptr));
+        QStringList errors;
+        connect(Application(), &TApplication::OnException, onOther,
+                [&](QObject *, const std::exception &e) { errors << QString::fromLatin1(e.what()); });
+        onOther->SetHideParentForm(false);
+        onOther->setParent(nullptr);
+        QTRY_COMPARE(errors, QStringList{"NoForm"});
+        delete onOther;
     }
 };
 

@@ -20,7 +20,7 @@ class TBlendPainter : public Base
 public:
     explicit TBlendPainter(QWidget *parent) : Base(parent)
     {
-        this->SetColor(0x00FF00FF);
+        this->SetDefaultColor(0x00FF00FF);   // ParentColor stays true
         this->SetBounds(this->Left(), this->Top(), 30, 30);
         this->SetControlStyle(this->ControlStyle() | csOpaque);
         this->UpdateOpacity();

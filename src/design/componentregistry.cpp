@@ -424,9 +424,19 @@ QWidget *createDesigning(const TComponentEntry &entry, QWidget *parent)
 }
 } // namespace
 
+std::unique_ptr<QWidget> CreateAlone(const TComponentEntry &entry, bool designing)
+{
+    // A component always has a form: it is made on a scratch one, then
+    // taken off it.
+    QWidget form;
+    QWidget *w = designing ? createDesigning(entry, &form) : entry.create(&form);
+    w->setParent(nullptr);
+    return std::unique_ptr<QWidget>(w);
+}
+
 QWidget *CreateForDesigner(const TComponentEntry &entry, QWidget *parent)
 {
-    QWidget *w = createDesigning(entry, parent);
+    QWidget *w = parent ? createDesigning(entry, parent) : CreateAlone(entry, true).release();
     if (auto *core = dynamic_cast<TComponentCore *>(w))
         core->QueueLoaded();
     return w;
@@ -434,7 +444,7 @@ QWidget *CreateForDesigner(const TComponentEntry &entry, QWidget *parent)
 
 std::unique_ptr<QWidget> CreateSample(const TComponentEntry &entry)
 {
-    std::unique_ptr<QWidget> w(createDesigning(entry, nullptr));
+    std::unique_ptr<QWidget> w = CreateAlone(entry, true);
     if (w->size().isEmpty())
         w->resize(w->sizeHint());
     return w;

@@ -53,3 +53,6 @@ QWidget *CreateForDesigner(const TComponentEntry &entry, QWidget *parent);
 // One made in design mode on no form, at the size it first has on one: for
 // pictures, icons and the widget box's template. Never gets Loaded.
 std::unique_ptr<QWidget> CreateSample(const TComponentEntry &entry);
+// A component by itself, for a look at its picture or its defaults (made
+// with a form, as components are, and taken off it), in design mode or not.
+std::unique_ptr<QWidget> CreateAlone(const TComponentEntry &entry, bool designing);

@@ -31,7 +31,14 @@ QWidget *TDesignerWidget::createWidget(QWidget *parent)
     // found the plugin (even in a process that also runs a Designer core)
     // makes them for a running form.
     const bool designing = FCore && (!parent || QDesignerFormWindowInterface::findFormWindow(parent));
-    return designing ? CreateForDesigner(FEntry, parent) : FEntry.create(parent);
+    // A component that refuses to be made (one that needs a form, made as
+    // a form's root) is reported; the loader goes on without it.
+    try {
+        return designing ? CreateForDesigner(FEntry, parent) : FEntry.create(parent);
+    } catch (const std::exception &e) {
+        qWarning("%s: %s", FEntry.className, e.what());
+        return nullptr;
+    }
 }
 
 void TDesignerWidget::initialize(QDesignerFormEditorInterface *core)

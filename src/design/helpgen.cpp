@@ -94,7 +94,7 @@ QString componentPage(const TComponentEntry &e, const QString &htmlDir)
         out << "<p>On a form it shows as this tile while the form is designed; at run time it is hidden.</p>\n";
 
     // Properties with the defaults a component made by code has.
-    std::unique_ptr<QWidget> fresh(e.create(nullptr));
+    const std::unique_ptr<QWidget> fresh = CreateAlone(e, false);
     const QMetaObject *meta = fresh->metaObject();
     const QStringList readOnly = ReadOnlyProperties(e);
     out << "<h2>Properties</h2>\n<table><tr><th>Property</th><th>Type</th><th>Default</th></tr>\n";

@@ -2,7 +2,11 @@
 
 #include "host/tcodepage.h"
 
-TqCustomSegmentLabel::TqCustomSegmentLabel(QWidget *parent) : TqCustomCellLabel(parent) {}
+// The clock keeps this style: only the label says it covers every pixel.
+TqCustomSegmentLabel::TqCustomSegmentLabel(QWidget *parent) : TqCustomCellLabel(parent)
+{
+    SetControlStyle(ControlStyle() & ~csOpaque);
+}
 
 TControl *TqCustomSegmentLabel::CreateCell(int)
 {

@@ -1,6 +1,7 @@
 #include "tapplication.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -109,6 +110,12 @@ TApplication::TApplication()
 }
 
 QString TApplication::Title() const { return QGuiApplication::applicationDisplayName(); }
+void TApplication::SetRestoreStep(QWidget *form, std::function<void()> step)
+{
+    FRestoreForm = form;
+    FRestoreStep = std::move(step);
+}
+
 void TApplication::SetTitle(const QString &title) { QGuiApplication::setApplicationDisplayName(title); }
 QIcon TApplication::Icon() const { return QApplication::windowIcon(); }
 void TApplication::SetIcon(const QIcon &icon) { QApplication::setWindowIcon(icon); }
@@ -392,16 +399,21 @@ bool TApplication::eventFilter(QObject *watched, QEvent *event)
         if (!FMainForm && w->isWindow() && (w->windowType() == Qt::Window || w->windowType() == Qt::Dialog))
             FMainForm = w;
         break;
-    case QEvent::WindowStateChange:
-        if (w == FMainForm) {
-            const bool was = static_cast<QWindowStateChangeEvent *>(event)->oldState() & Qt::WindowMinimized;
-            const bool is = w->windowState() & Qt::WindowMinimized;
+    case QEvent::WindowStateChange: {
+        const bool was = static_cast<QWindowStateChangeEvent *>(event)->oldState() & Qt::WindowMinimized;
+        const bool is = w->windowState() & Qt::WindowMinimized;
+        if (was && !is && FRestoreStep && w == FRestoreForm) {
+            const std::function<void()> step = std::exchange(FRestoreStep, nullptr);
+            FRestoreForm = nullptr;
+            step();
+        } else if (w == FMainForm) {
             if (is && !was)
                 emit OnMinimize(this);
             else if (was && !is)
                 emit OnRestore(this);
         }
         break;
+    }
     default:
         break;
     }

@@ -33,6 +33,7 @@
 #include <QWidget>
 
 #include <exception>
+#include <functional>
 #include <vector>
 #include <stdexcept>
 
@@ -126,6 +127,9 @@ public:
     // form (start-up minimised sets it false).
     bool ShowMainForm() const { return FShowMainForm; }
     void SetShowMainForm(bool show) { FShowMainForm = show; }
+    // A start minimised: the next time the user restores `form`, `step`
+    // runs in place of OnRestore, once; after it OnRestore is raised again.
+    void SetRestoreStep(QWidget *form, std::function<void()> step);
 
     // Help: OnHelp first; then, unless it says otherwise, the help file is
     // opened (at the context as the fragment "#<context>", or the keyword as
@@ -178,6 +182,8 @@ private:
     bool FDelivering = false;
     bool FIdleConnected = false;
     QPointer<QWidget> FMainForm;
+    QPointer<QWidget> FRestoreForm;
+    std::function<void()> FRestoreStep;
     QPointer<QWidget> FHover;
     QPointer<QWidget> FTipControl;
     QTimer FPause;

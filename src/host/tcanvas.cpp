@@ -790,10 +790,14 @@ int TCanvas::DrawText(const QString &text, TRect &r, unsigned flags)
     } else {
         qt |= Qt::AlignTop;
     }
-    if (flags & DT_WORDBREAK)
+    // One line wins over word breaks, as the platform's DrawText has it.
+    const bool wrap = (flags & DT_WORDBREAK) && !(flags & DT_SINGLELINE);
+    if (wrap)
         qt |= Qt::TextWordWrap;
     if (flags & DT_EXPANDTABS)
         qt |= Qt::TextExpandTabs;
+    if (flags & DT_NOCLIP)
+        qt |= Qt::TextDontClip;
     qt |= (flags & DT_NOPREFIX) ? 0 : Qt::TextShowMnemonic;
 
     QString shown = text;
@@ -816,7 +820,7 @@ int TCanvas::DrawText(const QString &text, TRect &r, unsigned flags)
         return shown.isEmpty() ? 0 : drawn.height();
     }
 
-    const int wrapWidth = (flags & DT_WORDBREAK) ? std::max(r.Width(), 1) : 1 << 20;
+    const int wrapWidth = wrap ? std::max(r.Width(), 1) : 1 << 20;
     const QRect measured = fm.boundingRect(QRect(r.Left, r.Top, wrapWidth, 1 << 20), qt & ~(Qt::AlignVCenter | Qt::AlignBottom), shown);
     const int height = shown.isEmpty() ? 0 : measured.height();
     if (flags & DT_CALCRECT) {

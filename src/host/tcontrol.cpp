@@ -23,6 +23,7 @@
 #include <algorithm>
 #include <cstring>
 #include <optional>
+#include <vector>
 
 namespace {
 TControl::TShiftState shiftState(Qt::KeyboardModifiers mods, Qt::MouseButtons buttons)
@@ -106,9 +107,16 @@ void TControl::SetDesigning(bool designing)
 
 void TControl::SetBounds(int left, int top, int width, int height)
 {
+    const QSize old = size();
     FBounds = QRect(left, top, width, height);
     setGeometry(FBounds);
     FBounds = geometry();   // as far as the widget's own limits allow
+    if (size() != old)
+        Resize();
+    // An aligned control goes back to its place among the others.
+    if (FAlign != alNone)
+        if (QWidget *parent = parentWidget())
+            AlignControls(parent);
 }
 
 // A new place or size that did not come through SetBounds (a layout, the
@@ -213,6 +221,13 @@ bool TControl::eventFilter(QObject *watched, QEvent *event)
 
 void AlignControls(QWidget *parent)
 {
+    // The controls placed below come back here through SetBounds: the
+    // parent being laid out is laid out once.
+    static std::vector<const QWidget *> aligning;
+    if (std::find(aligning.begin(), aligning.end(), parent) != aligning.end())
+        return;
+    aligning.push_back(parent);
+    const auto done = qScopeGuard([parent] { aligning.erase(std::find(aligning.begin(), aligning.end(), parent)); });
     QRect area = parent->contentsRect();
     const QObjectList children = parent->children();
     for (TAlign pass : {alTop, alBottom, alLeft, alRight, alClient})
@@ -519,6 +534,10 @@ bool TControl::handleEvent(QEvent *event)
     default:
         break;
     }
+    // Shown or hidden, an aligned control takes its place or leaves it.
+    if ((event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) && FAlign != alNone
+        && parentWidget())
+        AlignControls(parentWidget());
     if (event->type() == QEvent::ParentChange) {
         adoptParentColor();
         if (FAlign != alNone && parentWidget()) {

@@ -233,8 +233,15 @@ protected:
     virtual bool PaintsOpaque() const { return FControlStyle & csOpaque; }
     // Re-reads PaintsOpaque after a change of style or transparency.
     void UpdateOpacity();
+    // A constructor's colour that leaves ParentColor as it is: the control
+    // is made with no parent in the framework's order, so the colour holds
+    // until the control is placed on another parent or its parent's colour
+    // changes.
+    void SetDefaultColor(TColor color) { applyColor(color); }
     // Called after Color changed (own or inherited).
     virtual void ColorChanged() { Invalidate(); }
+    // Called after the control's size changed, the new size in place.
+    virtual void Resize() {}
 
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

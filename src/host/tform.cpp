@@ -2,15 +2,13 @@
 
 #include "tapplication.h"
 
-#include <QElapsedTimer>
 #include <QList>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QTimer>
 #include <QWindow>
+#include <QWindowStateChangeEvent>
 
 #include <algorithm>
-#include <optional>
 
 QWidget *FindForm(const QObject *component)
 {
@@ -63,10 +61,30 @@ TMinMaxInfo proposedLimits(const QWidget *form)
     return info;
 }
 
+// The limits as size hints. A maximised form keeps its state as long as
+// only its hints change (a move or a resize from the program would restore
+// it): its largest size is then the maximised size, which the window
+// manager gives it where it puts maximised windows.
 void applyLimits(QWidget *form, const TMinMaxInfo &info)
 {
-    form->setMinimumSize(info.MinTrackSize.expandedTo(QSize(0, 0)));
-    form->setMaximumSize(info.MaxTrackSize.expandedTo(info.MinTrackSize).boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)));
+    const QSize unlimited(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    const QSize min = info.MinTrackSize.expandedTo(QSize(0, 0)).boundedTo(unlimited);
+    const QSize maxTrack = info.MaxTrackSize.expandedTo(min).boundedTo(unlimited);
+    if (!form->isMaximized()) {
+        form->setMinimumSize(min);
+        form->setMaximumSize(maxTrack);
+        return;
+    }
+    // The widget's own limits only where they keep the present size.
+    const QSize now = form->size();
+    if (min.width() <= now.width() && min.height() <= now.height())
+        form->setMinimumSize(min);
+    if (maxTrack.width() >= now.width() && maxTrack.height() >= now.height())
+        form->setMaximumSize(maxTrack);
+    if (QWindow *window = form->windowHandle()) {
+        window->setMinimumSize(min);
+        window->setMaximumSize(info.MaxSize.boundedTo(maxTrack).expandedTo(min));
+    }
 }
 
 } // namespace
@@ -120,56 +138,7 @@ public:
         if (!ask(&limits))
             return;
         applyLimits(form, limits.Info);
-        if (form->isMaximized()) {
-            FMaximised = QRect(limits.Info.MaxPosition, limits.Info.MaxSize);
-            FCorrections = 0;
-            FPlacedAt.start();
-            place(form);
-        }
     }
-
-private:
-    // The maximised place: after the window manager has maximised the form,
-    // and again (a few times at most) while it settles its frame: when it
-    // moves the form on, and a little later, since a new frame need not
-    // come with a move.
-    void place(QWidget *form)
-    {
-        QPointer<QWidget> guard = form;
-        QTimer::singleShot(0, this, [this, guard] {
-            if (!guard || !FMaximised)
-                return;
-            guard->move(FMaximised->topLeft());
-            guard->resize(FMaximised->size());
-            // A busy window manager may change the frame later still.
-            for (int delay : {50, 200, 500, 1000})
-                QTimer::singleShot(delay, this, [this, guard] {
-                    if (guard)
-                        settle(guard);
-                });
-        });
-    }
-    // Some window managers take a placed maximised window for a restored
-    // one and give it its frame back: it stays where it was placed, frame
-    // and all, for as long as the placing goes on.
-    void settle(QWidget *form)
-    {
-        if (!FMaximised)
-            return;
-        const bool placing = FPlacedAt.isValid() && FPlacedAt.elapsed() < 2000;
-        if (!form->isMaximized() && !placing) {
-            FMaximised.reset();
-            return;
-        }
-        if ((form->pos() != FMaximised->topLeft() || form->size() != FMaximised->size()) && FCorrections < 8) {
-            ++FCorrections;
-            place(form);
-        }
-    }
-
-    QElapsedTimer FPlacedAt;
-    std::optional<QRect> FMaximised;
-    int FCorrections = 0;
 
 private:
     bool filter(QObject *watched, QEvent *event)
@@ -192,12 +161,9 @@ private:
             query(form);
             break;
         case QEvent::WindowStateChange:
-            if (form->isMaximized())
+            // Maximised or back: the hints of the new state.
+            if (form->isMaximized() != bool(static_cast<QWindowStateChangeEvent *>(event)->oldState() & Qt::WindowMaximized))
                 query(form);
-            break;
-        case QEvent::Move:
-        case QEvent::Resize:
-            settle(form);
             break;
         default:
             break;

@@ -72,13 +72,15 @@ struct TMinMaxInfo
     QSize MaxTrackSize;       // largest size the user can drag it to
 };
 
-// Asked before the form is shown, when it is maximised and when a component
-// calls QueryMinMaxInfo. The event comes with the system's proposal (the
-// screen's available area, the form's own least size, the whole desktop); a
-// hook that changes it returns true from its `before`, and then the form
-// gets the limits: the drag sizes as size constraints the window manager
-// keeps while the user drags, and, while it is maximised, the maximised
-// place and size.
+// Asked before the form is shown, when it is maximised or restored and
+// when a component calls QueryMinMaxInfo. The event comes with the system's
+// proposal (the screen's available area, the form's own least size, the
+// whole desktop); a hook that changes it returns true from its `before`, and
+// then the form gets the limits as size hints the window manager keeps: the
+// drag sizes, and while it is maximised the maximised size, so that it stays
+// maximised. Where a maximised window goes is the window manager's choice
+// on X11 (openbox: the corner of its work area); MaxPosition is kept for
+// window systems that place maximised windows by it.
 class TGetMinMaxInfoEvent : public QEvent
 {
 public:

@@ -43,7 +43,12 @@ public:
     QString Text() const override { return FCaption; }
     void SetText(const QString &text) override { SetCaption(text); }
 
+signals:
+    // After every change of the panel's size.
+    void OnResize(QObject *Sender);
+
 protected:
+    void Resize() override { emit OnResize(this); }
     // The frame, the bevels, the face and the caption, as panels look.
     void PaintPanel(TCanvas &canvas);
     void PaintCaption(TCanvas &canvas, TRect r);

@@ -2,6 +2,7 @@
 
 #include "layout/tqsplit.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 
 namespace {
@@ -219,7 +220,13 @@ void TqVerSplit::resizeEvent(QResizeEvent *event)
 void TqVerSplit::mousePressEvent(QMouseEvent *event)
 {
     if (FPassMouseOn && event->button() == Qt::LeftButton) {
-        event->ignore();   // on to the parent
+        // On to the parent as it came: the same press at the same
+        // coordinates, the panel's own.
+        if (QWidget *parent = parentWidget()) {
+            QMouseEvent same(event->type(), event->position(), event->scenePosition(), event->globalPosition(),
+                             event->button(), event->buttons(), event->modifiers(), event->pointingDevice());
+            QCoreApplication::sendEvent(parent, &same);
+        }
         return;
     }
     TCustomPanel::mousePressEvent(event);

@@ -15,3 +15,9 @@ bool SetSkipTaskbar(QWindow *window, bool skip);
 // Whether the window's state keeps it off the taskbar, as the window manager
 // last set it (or as set before the window was shown).
 bool SkipsTaskbar(QWindow *window);
+// Asks the window manager for a border alone, without a title bar, on a
+// top-level window (its own decorations are what Qt's window flags ask for
+// otherwise); `sizable` keeps the user's resizing. Best set after the native
+// window exists and before it is shown; a shown window is redecorated.
+// False where the window system has no such hint.
+bool SetBorderOnly(QWindow *window, bool sizable);

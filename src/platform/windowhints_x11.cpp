@@ -94,3 +94,22 @@ bool SkipsTaskbar(QWindow *window)
         wmState(c, xcb_window_t(window->winId()), atom(c, "_NET_WM_STATE"));
     return std::find(atoms.begin(), atoms.end(), atom(c, "_NET_WM_STATE_SKIP_TASKBAR")) != atoms.end();
 }
+
+// The Motif hints every X11 window manager reads: which decorations and
+// which functions the window has.
+bool SetBorderOnly(QWindow *window, bool sizable)
+{
+    xcb_connection_t *c = connection();
+    if (!c || !window)
+        return false;
+    enum : uint32_t { Functions = 1, Decorations = 2 };
+    enum : uint32_t { FuncResize = 2, FuncMove = 4, FuncMinimize = 8, FuncMaximize = 16, FuncClose = 32 };
+    enum : uint32_t { DecorBorder = 2 };
+    const uint32_t hints[5] = {Functions | Decorations,
+                               FuncMove | FuncMinimize | FuncClose | (sizable ? FuncResize | FuncMaximize : 0u),
+                               DecorBorder, 0, 0};
+    const xcb_atom_t motif = atom(c, "_MOTIF_WM_HINTS");
+    xcb_change_property(c, XCB_PROP_MODE_REPLACE, xcb_window_t(window->winId()), motif, motif, 32, 5, hints);
+    xcb_flush(c);
+    return true;
+}

@@ -2,12 +2,15 @@
 
 #include "host/tform.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QWidget>
 
-// The layer over the control: the session's picture, transparent where
-// nothing was drawn. It goes when the control paints itself again (not
-// when the control repaints under the layer because the layer changed).
+// The layer over the control: what was drawn on the control's window,
+// transparent where nothing was. It goes when the control paints itself
+// (during a session the drawing goes and the layer stays for more). The
+// layer shows new drawing with a paint of its own, done at once, so that
+// any other paint of the control is the control's own.
 class TCanvasLayer : public QWidget
 {
 public:
@@ -20,33 +23,53 @@ public:
         control->installEventFilter(this);
         show();
         raise();
+        // Painted into place now: the paints its coming asked for are done
+        // before anything is drawn.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
+        QCoreApplication::sendPostedEvents(window(), QEvent::UpdateRequest);
     }
     QImage &Image() { return FImage; }
-    void Refresh()
+    // Shows what was drawn since the last time.
+    void Show()
     {
-        FOwnUpdate = true;
-        update();
+        if (FImage == FShown)
+            return;
+        FOwnPaint = true;
+        repaint();
+        FOwnPaint = false;
+        FShown = FImage;   // shared until the canvas draws again
     }
 
 protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter(this).drawImage(0, 0, FImage);
-        FOwnUpdate = false;
+        FOnScreen = true;
     }
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (watched == parent() && event->type() == QEvent::Paint && !FOwnUpdate && !FKeep)
-            deleteLater();   // the control painted itself: what was drawn is gone
+        // Until the layer is first on the screen, the control paints under
+        // it because it came.
+        if (watched != parent() || event->type() != QEvent::Paint || FOwnPaint || !FOnScreen)
+            return false;
+        // The control painted itself: what was drawn is gone.
+        if (FKeep) {
+            FImage.fill(Qt::transparent);
+            FShown = FImage;
+        } else {
+            deleteLater();
+        }
         return false;
     }
 
 public:
-    bool FKeep = false;   // while the session goes on
+    bool FKeep = false;   // while a session goes on
 
 private:
     QImage FImage;
-    bool FOwnUpdate = false;
+    QImage FShown;   // what the screen shows of it
+    bool FOwnPaint = false;
+    bool FOnScreen = false;
 };
 
 TqCompCanvas::TqCompCanvas(QWidget *owner) : TComponent(owner), FCanvas(std::make_unique<TCanvas>())
@@ -54,7 +77,7 @@ TqCompCanvas::TqCompCanvas(QWidget *owner) : TComponent(owner), FCanvas(std::mak
     FShow.setInterval(16);
     connect(&FShow, &QTimer::timeout, this, [this] {
         if (FLayer)
-            FLayer->Refresh();
+            FLayer->Show();
     });
 }
 
@@ -116,11 +139,15 @@ void TqCompCanvas::StartPaint()
     if (!FControl)
         throw EqCompCanvasException("No component to draw on");
     FDrawing = true;
-    delete FLayer;   // a picture left from the last session
-    FLayer = new TCanvasLayer(FControl);
+    // What the last session drew stays until the control paints itself.
+    if (FLayer && (FLayer->parent() != FControl || FLayer->size() != FControl->size()))
+        delete FLayer;
+    if (!FLayer) {
+        FLayer = new TCanvasLayer(FControl);
+        FLayer->Show();   // there, before anything is drawn
+    }
     FLayer->FKeep = true;
     FCanvas = std::make_unique<TCanvas>(&FLayer->Image());
-    FLayer->Refresh();
     FShow.start();
 }
 
@@ -131,15 +158,15 @@ void TqCompCanvas::EndPaint()
     stop();
 }
 
-// Back to idle: the picture shows once more and stays until the control
-// paints itself; the next session gets a new canvas.
+// Back to idle: the last of the picture shows now and stays until the
+// control paints itself; the next session gets a new canvas.
 void TqCompCanvas::stop()
 {
     FDrawing = false;
     FShow.stop();
     if (FLayer) {
         FLayer->FKeep = false;
-        FLayer->Refresh();
+        FLayer->Show();
     }
     FCanvas = std::make_unique<TCanvas>();
 }

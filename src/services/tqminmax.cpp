@@ -54,8 +54,7 @@ void AdjustForTaskbar(QSize screen, const QRect &bar, TSizeLimits &l)
 
 TqMinMax::TqMinMax(QWidget *owner) : TComponent(owner)
 {
-    if (owner)
-        SetSize();
+    SetSize();   // "NoForm" when made on none
 }
 
 TqMinMax::~TqMinMax()
@@ -99,16 +98,15 @@ void TqMinMax::SetSize()
     QWidget *form = FindForm(this);   // "NoForm" when on none
     if (IsDesigning())
         return;
-    // The new limits first, so that the form may take the sizes below.
+    // The new limits first, so that the form may take the sizes below. A
+    // maximised form takes its maximised size from them, through the window
+    // manager, and stays maximised.
     QueryMinMaxInfo(form);
-    QSize size = form->size();
-    if (!form->isMaximized()) {
-        size = size.boundedTo(QSize(FLimits.MaxDragWidth, FLimits.MaxDragHeight));
-    } else {
-        form->move(FLimits.MaxLeft, FLimits.MaxTop);
-        size = size.boundedTo(QSize(FLimits.MaxWidth, FLimits.MaxHeight));
-    }
-    size = size.expandedTo(QSize(FLimits.MinDragWidth, FLimits.MinDragHeight));
+    if (form->isMaximized())
+        return;
+    const QSize size = form->size()
+                           .boundedTo(QSize(FLimits.MaxDragWidth, FLimits.MaxDragHeight))
+                           .expandedTo(QSize(FLimits.MinDragWidth, FLimits.MinDragHeight));
     if (size != form->size())
         form->resize(size);
 }

@@ -2,7 +2,10 @@
 // A size guard: limits the size and the maximised place of the form it is
 // on. The form cannot be dragged smaller than MinDragWidth x MinDragHeight
 // or larger than MaxDragWidth x MaxDragHeight, and maximised it takes
-// MaxLeft, MaxTop, MaxWidth x MaxHeight. Sizes are the form's Width and
+// MaxWidth x MaxHeight and stays maximised (limits changed while it is are
+// applied without restoring it). MaxLeft and MaxTop are the maximised place
+// where the window system places maximised windows by the program's word;
+// X11 window managers place them themselves. Sizes are the form's Width and
 // Height (its client area), places are its Left and Top (its frame), all
 // in screen pixels.
 

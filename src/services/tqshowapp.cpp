@@ -11,6 +11,7 @@
 
 #include <QEvent>
 #include <QApplication>
+#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 
@@ -182,10 +183,28 @@ void TqShowApp::showCommand(QWidget *form)
 {
     const int command = StartupShowCommand(QCoreApplication::arguments(), qEnvironmentVariable(kShowCommandVariable));
     switch (StartStateOf(command)) {
-    case TStartState::Minimized:
+    case TStartState::Minimized: {
+        // The application starts minimised, its form not shown; when the
+        // user restores it, the form is shown and ShowMainForm is true
+        // again (in place of the application's OnRestore, that once).
+        QPointer<QWidget> restored = form;
+        Application()->SetRestoreStep(form, [restored] {
+            Application()->SetShowMainForm(true);
+            if (restored) {
+                restored->setWindowState(restored->windowState() & ~Qt::WindowMinimized);
+                restored->show();
+            }
+        });
         SetShowMainForm(false);
         form->setWindowState(Qt::WindowMinimized);
+        // Minimised is on the taskbar, whether the program shows the form
+        // or leaves it to ShowMainForm.
+        QTimer::singleShot(0, form, [restored] {
+            if (restored && !restored->isVisible() && (restored->windowState() & Qt::WindowMinimized))
+                restored->showMinimized();
+        });
         break;
+    }
     case TStartState::Maximized:
         form->setWindowState(Qt::WindowMaximized);
         break;
@@ -195,15 +214,17 @@ void TqShowApp::showCommand(QWidget *form)
     }
 }
 
-// Keyed by the executable's full path: the first start holds the lock and
-// listens; a later one tells the first and ends.
+// Keyed by the executable's full path: every start takes part, and the
+// first holds the lock for its life, whatever its own OnlyOneInstance says.
+// A first start that asks for one instance listens; a later one that asks
+// for it tells the first and ends; a later one that does not just runs.
 void TqShowApp::singleInstance(QWidget *form)
 {
-    if (!FOnlyOneInstance)
-        return;
     FKey = QCoreApplication::applicationFilePath();
     FLock = std::make_unique<TInstanceLock>(FKey);
     if (FLock->Acquire()) {
+        if (!FOnlyOneInstance)
+            return;
         FChannel = new TInstanceChannel(FKey, this);
         connect(FChannel, &TInstanceChannel::Received, this, [this](const QByteArray &message) {
             if (message == (FKey + QStringLiteral("_Afslut")).toUtf8())
@@ -212,6 +233,9 @@ void TqShowApp::singleInstance(QWidget *form)
         FChannel->Listen();
         return;
     }
+    FLock.reset();
+    if (!FOnlyOneInstance)
+        return;
     FClosing = true;
     bool bring = true;
     form->move(-(form->width() + 10), form->y());   // out of sight

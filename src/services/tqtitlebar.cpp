@@ -1,6 +1,7 @@
 #include "tqtitlebar.h"
 
 #include "host/tform.h"
+#include "platform/windowhints.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -17,8 +18,8 @@ bool hasTitle(const QWidget *form)
 
 // New window flags on a shown form re-create its native window: the frame
 // keeps its place, the client area its size, and visibility, activation and
-// focus come back.
-void setFlagsKeeping(QWidget *form, Qt::WindowFlags flags)
+// focus come back. `border` asks for a thin border in place of the title.
+void setFlagsKeeping(QWidget *form, Qt::WindowFlags flags, bool border)
 {
     const QPoint place = form->pos();
     const QSize size = form->size();
@@ -32,6 +33,10 @@ void setFlagsKeeping(QWidget *form, Qt::WindowFlags flags)
     form->setWindowFlags(flags);
     form->move(place);
     form->resize(size);
+    if (border) {
+        form->winId();   // the new native window, not yet shown
+        SetBorderOnly(form->windowHandle(), FormBorderStyle(form) == bsSizeable);
+    }
     if (visible)
         form->show();
     if (focus)
@@ -89,10 +94,17 @@ void TqTitleBar::SetTitleBar(bool show)
             FSavedFlags = flags;
             flags = (flags | Qt::CustomizeWindowHint) & ~titled;
         }
-        if (!tool)
-            setFlagsKeeping(form, flags);
-        else if (!show)   // a tool window keeps its title bar; its height still changes
-            form->resize(form->width(), qMax(0, form->height() - TitleBarHeight(form)));
+        if (!tool) {
+            // Hidden, the title leaves a thin border.
+            setFlagsKeeping(form, flags, !show);
+        } else if (!show) {
+            // A tool window keeps its title bar; its height still changes,
+            // a fixed size included.
+            const QSize size(form->width(), qMax(0, form->height() - TitleBarHeight(form)));
+            if (form->minimumSize() == form->maximumSize())
+                form->setFixedSize(size);
+            form->resize(size);
+        }
     }
     DoOnChange();
     form->update();

@@ -17,9 +17,10 @@ QString TrayToolTip(const QString &text)
 
 TqTrayIcon::TqTrayIcon(QWidget *owner) : TComponent(owner)
 {
+    FindForm(this);   // "NoForm" when made on none
     // A form other than the main one is shown or hidden as HideParentForm
     // says, once the current event has been handled.
-    if (owner && !IsDesigning())
+    if (!IsDesigning())
         SetHideParentForm(FHideParentForm);
 }
 
@@ -36,11 +37,16 @@ void TqTrayIcon::SetHideParentForm(bool hide)
         QTimer::singleShot(0, this, &TqTrayIcon::hideForm);
 }
 
+// Run from the event loop: a component taken off its form meanwhile
+// reports "NoForm" to the application.
 void TqTrayIcon::hideForm()
 {
-    QWidget *form = FindForm(this);
-    if (form != Application()->MainForm())
-        form->setVisible(!FHideParentForm);
+    GuardEvent(this, [this] {
+        QWidget *form = FindForm(this);
+        if (form != Application()->MainForm())
+            form->setVisible(!FHideParentForm);
+        return true;
+    });
 }
 
 void TqTrayIcon::SetShowDesigning(bool show)
