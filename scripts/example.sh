@@ -13,4 +13,10 @@ for f in libqcoldesigner.so QuovarCollectionConfig.cmake qcol.qch tqsegment.html
   find "$prefix" -name "$f" | grep -q . || { echo "example: $f was not installed"; exit 1; }
 done
 QT_QPA_PLATFORM=offscreen "$prefix/build-panel/panel" --once
+# Qt's form loader finds every component through the installed plugin alone,
+# whatever the prefix.
+cmake -S examples/formload -B "$prefix/build-formload" -G Ninja >/dev/null
+cmake --build "$prefix/build-formload"
+plugins=$(dirname "$(dirname "$(find "$prefix" -name libqcoldesigner.so | head -n 1)")")
+QT_QPA_PLATFORM=offscreen QT_PLUGIN_PATH="$plugins" "$prefix/build-formload/formload" tests/data/panel.ui
 echo "example: built and ran against the installed library in $prefix"

@@ -7,7 +7,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools
-  qt6-documentation-tools designer-qt6 assistant-qt6 libqt6designercomponents6
+  qt6-documentation-tools qt6-tools-private-dev designer-qt6 assistant-qt6 libqt6designercomponents6
   libqt6opengl6-dev libgl-dev
   xvfb xauth fonts-dejavu-core openbox x11-utils xdotool trayer libxcb1-dev
   clang libclang-rt-14-dev

@@ -11,6 +11,8 @@
 #include "design/qshapebtneditor.h"
 #include "displays/qseg.h"
 #include "indicators/qgauge.h"
+#include "indicators/qled.h"
+#include "layout/qsplit.h"
 #include "labels/labels.h"
 #include "services/mystd.h"
 #include "services/std2.h"
@@ -22,8 +24,10 @@
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
+#include <QtDesigner/QDesignerPropertyEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QDesignerTaskMenuExtension>
+#include <QtDesigner/QDesignerWidgetDataBaseInterface>
 #include <QtDesigner/QExtensionManager>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
@@ -39,6 +43,7 @@
 #include <QMetaProperty>
 #include <QPluginLoader>
 #include <QRadioButton>
+#include <QTreeWidget>
 #include <QUndoStack>
 #include <QUiLoader>
 
@@ -242,14 +247,41 @@ private slots:
         QTRY_VERIFY(!form.findChild<TqCalc *>()->IsLoading());   // Loaded came once the event loop ran
     }
 
+    // Each icon is its component's picture: most of the square, with
+    // something in its middle unlike its edge, and unlike every other icon.
     void iconsAreTheComponentsOwnPictures()
     {
+        QList<QImage> seen;
+        QStringList blank, alike;
         for (const TComponentEntry &e : Components()) {
             const QIcon icon = ComponentIcon(e);
             QCOMPARE(icon.availableSizes(), (QList<QSize>{QSize(24, 24), QSize(48, 48)}));
-            const int opaque = pixelsWhere(icon.pixmap(24, 24).toImage(), [](QRgb p) { return qAlpha(p) == 255; }).count;
-            QVERIFY2(opaque >= 24 * 8, e.className);   // a picture, at least a third of the square
+            for (int side : {24, 48}) {
+                const QImage image = icon.pixmap(side, side).toImage().convertToFormat(QImage::Format_ARGB32);
+                const int opaque = pixelsWhere(image, [](QRgb p) { return qAlpha(p) == 255; }).count;
+                QVERIFY2(opaque >= side * side / 3, e.className);
+                const QRect ink = pixelsWhere(image, [](QRgb p) { return qAlpha(p) == 255; }).box;
+                QSet<QRgb> edge;
+                for (int x = ink.left(); x <= ink.right(); ++x)
+                    edge << image.pixel(x, ink.top()) << image.pixel(x, ink.bottom());
+                for (int y = ink.top(); y <= ink.bottom(); ++y)
+                    edge << image.pixel(ink.left(), y) << image.pixel(ink.right(), y);
+                // Blank: the middle third all of one colour that the edge has.
+                const QRect middle(ink.center() - QPoint(side / 6, side / 6), QSize(side / 3, side / 3));
+                QSet<QRgb> inside;
+                for (int y = middle.top(); y <= middle.bottom(); ++y)
+                    for (int x = middle.left(); x <= middle.right(); ++x)
+                        inside << image.pixel(x, y);
+                if (inside.size() == 1 && edge.contains(*inside.begin()))
+                    blank << QStringLiteral("%1 at %2").arg(QLatin1String(e.className)).arg(side);
+            }
+            const QImage big = icon.pixmap(48, 48).toImage();
+            if (seen.contains(big))
+                alike << QLatin1String(e.className);
+            seen << big;
         }
+        QCOMPARE(blank.join(QLatin1Char(',')), QString());
+        QCOMPARE(alike.join(QLatin1Char(',')), QString());
     }
 
     void formRoundTripThroughDesigner()
@@ -404,13 +436,100 @@ private slots:
         QCOMPARE(loaded->findChild<TqBitColBtn *>("button")->Glyph().toImage().pixel(0, 0), qRgb(255, 0, 0));
     }
 
+    // The panels hold the controls placed on them: saved as their children
+    // (the splitter's bar is not), made so at run time, and moved with the
+    // splitter's bar.
+    void panelsHoldTheirControls()
+    {
+        for (const char *cls : {"TqMovePanel", "TqVerSplit", "TqHorSplit"})
+            QVERIFY2(d->core->widgetDataBase()->item(d->core->widgetDataBase()->indexOfClassName(QLatin1String(cls)))
+                         ->isContainer(),
+                     cls);
+        QVERIFY(!d->core->widgetDataBase()->item(d->core->widgetDataBase()->indexOfClassName("TqLed"))->isContainer());
+        const auto geometry = [](int x, int y) {
+            return QStringLiteral("<property name=\"geometry\"><rect><x>%1</x><y>%2</y><width>17</width>"
+                                  "<height>17</height></rect></property>").arg(x).arg(y);
+        };
+        auto *split = design<TqVerSplit>(
+            QStringLiteral("<widget class=\"TqMovePanel\" name=\"mover\"><widget class=\"TqLed\" name=\"carried\">%1</widget></widget>"
+                           "<widget class=\"TqVerSplit\" name=\"split\"><property name=\"WhereSplit\"><number>100</number></property>"
+                           "<widget class=\"TqLed\" name=\"left\">%2</widget><widget class=\"TqLed\" name=\"right\">%3</widget></widget>")
+                .arg(geometry(5, 5), geometry(20, 20), geometry(150, 20)),
+            "split");
+        QVERIFY(split);
+        QCOMPARE(split->findChild<TqLed *>("left")->parentWidget(), split);
+        QVERIFY(d->form->isManaged(split->findChild<TqLed *>("right")));
+        QVERIFY(!d->form->isManaged(split->Bar()));
+        const QString saved = d->form->contents();
+        QVERIFY(!saved.contains(QLatin1String("TqSplit")));
+        const std::unique_ptr<QWidget> loaded = reloaded();
+        auto *runSplit = loaded->findChild<TqVerSplit *>("split");
+        auto *left = runSplit->findChild<TqLed *>("left");
+        auto *right = runSplit->findChild<TqLed *>("right");
+        QVERIFY(left && right);
+        QCOMPARE(loaded->findChild<TqLed *>("carried")->parentWidget(), loaded->findChild<TqMovePanel *>("mover"));
+        QCOMPARE(runSplit->findChildren<TqSplit *>().size(), 1);
+        runSplit->SetWhereSplit(130);
+        QCOMPARE(right->x(), 180);
+        QCOMPARE(left->x(), 50);
+    }
+
+    // What the designer shows is what the program shows: a caption taken
+    // from the name is stored, and the clocks show no face of their timer.
+    void designedLooksAsItRuns()
+    {
+        auto *button = designOne<TqColorBtn>("start");
+        QCOMPARE(button->Caption(), QStringLiteral("start"));
+        QCOMPARE(reloaded()->findChild<TqColorBtn *>("start")->Caption(), QStringLiteral("start"));
+        auto *clock = designOne<TqSegmentClock>("clock");
+        QVERIFY(clock->Timer()->IsDesigning());
+        QVERIFY(clock->Timer()->isHidden());
+        QVERIFY(designOne<TqcDotClock>("dots")->Timer()->isHidden());
+    }
+
+    // Greyed in Designer's own property editor, and refused when set.
     void calculatorResultsAreReadOnly()
     {
-        auto *sheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqCalc>("calc"));
+        auto *calc = designOne<TqCalc>("calc");
+        auto *sheet = d->extension<QDesignerPropertySheetExtension>(calc);
         for (const char *name : {"NumberNum", "Number", "RegisterA", "RegisterD", "CalcResult", "WhereIsLastError"})
             QVERIFY2(!sheet->isEnabled(sheet->indexOf(name)) && sheet->isVisible(sheet->indexOf(name)), name);
         for (const char *name : {"RegisterF", "RegisterJ", "CalcLine", "RegisterANum"})
             QVERIFY2(sheet->isEnabled(sheet->indexOf(name)), name);
+        QDesignerPropertyEditorInterface *editor = QDesignerComponents::createPropertyEditor(d->core, &d->top);
+        d->core->setPropertyEditor(editor);
+        editor->setObject(calc);
+        const auto row = [editor](const char *name) -> QTreeWidgetItem * {
+            for (QTreeWidget *tree : editor->findChildren<QTreeWidget *>()) {
+                const auto items = tree->findItems(QLatin1String(name), Qt::MatchExactly | Qt::MatchRecursive);
+                if (!items.isEmpty())
+                    return items.first();
+            }
+            return nullptr;
+        };
+        QVERIFY(row("RegisterA") && row("CalcLine"));
+        QVERIFY(!(row("RegisterA")->flags() & Qt::ItemIsEnabled));
+        QVERIFY(!(row("CalcResult")->flags() & Qt::ItemIsEnabled));
+        QVERIFY(row("CalcLine")->flags() & Qt::ItemIsEnabled);
+        d->form->cursor()->setWidgetProperty(calc, QStringLiteral("RegisterA"), 99.0);
+        QCOMPARE(calc->property("RegisterA"), QVariant(calc->RegisterA()));
+        QVERIFY(calc->RegisterA() != QLatin1String("99"));
+        d->core->setPropertyEditor(nullptr);
+        delete editor;
+    }
+
+    // A colour picked for a system-colour property is the colour picked.
+    void pickedColourReplacesASystemColour()
+    {
+        auto *seg = designOne<TqSegment>("seg");
+        auto *sheet = d->extension<QDesignerPropertySheetExtension>(seg);
+        const int color = sheet->indexOf("Color");
+        sheet->setProperty(color, ColorToFormColor(clHighlight));
+        QCOMPARE(seg->Color(), clHighlight);
+        QColor picked = sheet->property(color).value<QColor>();   // the dialog keeps the alpha
+        picked.setRgb(255, 0, 0, picked.alpha());
+        sheet->setProperty(color, picked);
+        QCOMPARE(seg->Color(), clRed);
     }
 
     void gaugeCaptionStyleFromItsEditor()

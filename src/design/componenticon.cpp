@@ -2,6 +2,8 @@
 
 #include "componentregistry.h"
 
+#include "host/tcontrol.h"
+
 #include <QPainter>
 #include <QWidget>
 
@@ -16,7 +18,17 @@ QImage iconPicture(const TComponentEntry &entry)
     const std::unique_ptr<QWidget> component = CreateSample(entry);   // faces show, captions are the designer's
     if (entry.poseForIcon)
         entry.poseForIcon(component.get());
-    QImage picture = component->grab().toImage();
+    // A control that leaves its background alone shows on the button face
+    // (a grab would show black), with the controls on it over it.
+    QImage picture;
+    if (auto *control = qobject_cast<TControl *>(component.get())) {
+        picture = control->RenderImage(ColorToQRgb(clBtnFace));
+        for (QWidget *child : control->findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+            if (!child->isHidden())
+                child->render(&picture, child->pos());
+    } else {
+        picture = component->grab().toImage();
+    }
     if (picture.width() > 2 * picture.height())
         picture = picture.copy(0, 0, 2 * picture.height(), picture.height());
     return picture;

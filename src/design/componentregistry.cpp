@@ -14,9 +14,11 @@
 #include "slidebar/slidebar.h"
 #include "services/std2.h"
 
+#include <QPainter>
 #include <QTime>
 
 #include <cmath>
+#include <type_traits>
 
 namespace {
 
@@ -26,14 +28,181 @@ QWidget *make(QWidget *parent)
     return new T(parent);
 }
 
-void poseSegment(QWidget *w) { static_cast<TqSegment *>(w)->SetChar('8'); }
+// A small landscape: sky, sun and a hill, for the picture components.
+QPixmap samplePicture(int w, int h)
+{
+    QImage image(w, h, QImage::Format_RGB32);
+    image.fill(qRgb(96, 160, 224));
+    QPainter p(&image);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(255, 208, 0));
+    p.drawEllipse(QPoint(w / 2, h * 2 / 5), h / 5, h / 5);
+    p.setBrush(QColor(40, 150, 40));
+    p.drawEllipse(QPoint(w / 3, h + h / 5), w * 2 / 3, h / 2);
+    return QPixmap::fromImage(image);
+}
+
+// A riveted steel plate, for the tile maps.
+QPixmap sampleTile()
+{
+    QImage image(12, 12, QImage::Format_RGB32);
+    image.fill(qRgb(150, 150, 160));
+    QPainter p(&image);
+    p.setPen(QColor(90, 90, 100));
+    p.drawLine(0, 11, 11, 11);
+    p.drawLine(11, 0, 11, 11);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(60, 60, 70));
+    p.drawEllipse(QPoint(5, 5), 2, 2);
+    return QPixmap::fromImage(image);
+}
+
+void poseBitmap(QWidget *w)
+{
+    auto *bitmap = static_cast<TqBitmap *>(w);
+    bitmap->SetBounds(0, 0, 48, 36);
+    bitmap->SetBitmap(samplePicture(48, 36));
+}
+
+// Four frames of a ball that moves across, showing the second.
+void poseAnimated(QWidget *w)
+{
+    QImage strip(4 * 36, 36, QImage::Format_RGB32);
+    strip.fill(qRgb(255, 255, 255));
+    QPainter p(&strip);
+    p.setPen(Qt::NoPen);
+    for (int i = 0; i < 4; ++i) {
+        p.setBrush(QColor(220, 60, 40));
+        p.drawEllipse(QPoint(i * 36 + 8 + i * 6, 18), 7, 7);
+        p.setBrush(QColor(200, 200, 200));
+        p.drawRect(i * 36, 30, 36, 6);
+    }
+    p.end();
+    auto *animated = static_cast<TqAnimated *>(w);
+    animated->SetBitmap(QPixmap::fromImage(strip));
+    animated->SetFrames(4);
+    animated->SetFrame(1);
+}
+
+template <class Map>
+void poseTileMap(QWidget *w)
+{
+    auto *map = static_cast<Map *>(w);
+    map->SetBounds(0, 0, 48, 36);
+    map->SetBitmap(sampleTile());
+}
+
+// The twins without a window of their own: the blend across, the plate
+// of another metal, the button named so.
+void poseNWBlendPaint(QWidget *w) { static_cast<TqNWBlendPaint *>(w)->SetGrad(gHorz); }
+
+void poseNWTileMap(QWidget *w)
+{
+    auto *map = static_cast<TqNWTileMap *>(w);
+    map->SetBounds(0, 0, 48, 36);
+    QImage tile = sampleTile().toImage();
+    for (int y = 0; y < tile.height(); ++y)
+        for (int x = 0; x < tile.width(); ++x) {
+            const QRgb p = tile.pixel(x, y);
+            tile.setPixel(x, y, qRgb(qRed(p) + 60 > 255 ? 255 : qRed(p) + 60, qGreen(p), qBlue(p) / 2));
+        }
+    map->SetBitmap(QPixmap::fromImage(tile));
+}
+
 void posePeakOmeter(QWidget *w)
 {
     auto *meter = static_cast<TqcPeakOmeter *>(w);
-    meter->SetBounds(0, 0, 48, 48);
+    meter->SetBounds(0, 0, 20, 48);
     meter->SetBlocks(8);
     meter->Push(80);
 }
+
+// A frame round a lamp, as frames group controls.
+void poseFrame(QWidget *w)
+{
+    auto *frame = static_cast<TqFrame *>(w);
+    frame->SetBounds(0, 0, 40, 30);
+    frame->SetShape(TqFrame::fsFrame);
+    auto *lamp = new TqLed(frame);
+    lamp->SetBounds(12, 7, 17, 17);
+    lamp->WriteLedColor(TqLed::lctGreen);
+    lamp->writeLedOn(true);
+    lamp->show();
+}
+
+void poseDivider(QWidget *w)
+{
+    auto *divider = static_cast<TqDivider *>(w);
+    divider->SetBounds(0, 0, 60, 20);
+    divider->SetCaption(QStringLiteral("Div"));
+}
+
+void poseMovePanel(QWidget *w)
+{
+    auto *panel = static_cast<TqMovePanel *>(w);
+    panel->SetBounds(0, 0, 48, 36);
+    panel->SetCaption(QStringLiteral("+"));
+    QFont f = panel->Font();
+    f.setPixelSize(24);
+    f.setBold(true);
+    panel->SetFont(f);
+}
+
+template <class Split>
+void poseSplit(QWidget *w)
+{
+    auto *split = static_cast<Split *>(w);
+    split->SetBounds(0, 0, 48, 48);
+    split->SetNewLook(true);
+    split->GoMedium();
+}
+
+template <class Label>
+void poseCaption(QWidget *w, const char *caption)
+{
+    auto *label = static_cast<Label *>(w);
+    QFont f = label->Font();
+    f.setPixelSize(20);
+    f.setBold(true);
+    label->SetFont(f);
+    label->SetCaption(QString::fromLatin1(caption));
+}
+
+void pose3DLabel(QWidget *w) { poseCaption<Tq3DLabel>(w, "3D"); }
+void poseMouseSpot(QWidget *w) { poseCaption<TqMouseSpot>(w, "Go"); }
+
+// A tick, for the glyph buttons.
+QPixmap sampleGlyph(TColor color)
+{
+    QImage image(16, 16, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setPen(QPen(QColor(ColorToQRgb(color)), 3));
+    p.drawLine(2, 8, 6, 12);
+    p.drawLine(6, 12, 13, 3);
+    return QPixmap::fromImage(image);
+}
+
+template <class Button>
+void poseGlyphButton(QWidget *w, const char *caption, TColor color, bool icon)
+{
+    auto *b = static_cast<Button *>(w);
+    b->SetBounds(0, 0, 60, 30);
+    b->SetCaption(QString::fromLatin1(caption));
+    if constexpr (std::is_base_of_v<TqIconColBtn, Button> || std::is_base_of_v<TqNWIconColBtn, Button>) {
+        Q_UNUSED(icon);
+        b->SetIcon(QIcon(sampleGlyph(color)));
+    } else {
+        b->SetGlyph(sampleGlyph(color));
+    }
+}
+
+void poseBitColBtn(QWidget *w) { poseGlyphButton<TqBitColBtn>(w, "Bit", clGreen, false); }
+void poseIconColBtn(QWidget *w) { poseGlyphButton<TqIconColBtn>(w, "Icon", clBlue, true); }
+void poseNWBitColBtn(QWidget *w) { poseGlyphButton<TqNWBitColBtn>(w, "NW", clGreen, false); }
+void poseNWIconColBtn(QWidget *w) { poseGlyphButton<TqNWIconColBtn>(w, "NW", clBlue, true); }
+
+void poseSegment(QWidget *w) { static_cast<TqSegment *>(w)->SetChar('8'); }
 void poseDotSegment(QWidget *w) { static_cast<TqcDotSegment *>(w)->SetChar('A'); }
 
 void poseSegmentLabel(QWidget *w)
@@ -125,6 +294,12 @@ void poseButton(QWidget *w)
     b->SetCaption(QStringLiteral("OK"));
 }
 
+void poseNWColorBtn(QWidget *w)
+{
+    poseButton<TqNWColorBtn>(w);
+    static_cast<TqNWColorBtn *>(w)->SetCaption(QStringLiteral("NW"));
+}
+
 void poseGradBtn(QWidget *w)
 {
     poseButton<TqGradBtn>(w);
@@ -170,10 +345,10 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqBitmap", "buttons/qanimate.h", 0, 6, "Picture",
      "A picture at its size, centred, or stretched (keeping its proportions if asked); the "
      "transparent colour can let what lies beneath show.",
-     make<TqBitmap>, nullptr, true},
+     make<TqBitmap>, poseBitmap, true},
     {"TqAnimated", "buttons/qanimate.h", 0, 7, "Animation",
      "Frames cut from a strip, shown one after the other at an interval, once or in a loop.",
-     make<TqAnimated>, nullptr, true},
+     make<TqAnimated>, poseAnimated, true},
     {"TqBackground", "backgrounds/blend.h", 0, 8, "Form background",
      "Gives the client area of its form a wallpaper: a tiled bitmap, a colour blend in bands or "
      "rings, or the steel texture, painted behind the form's controls. Invisible at run time.",
@@ -185,14 +360,14 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqNWBlendPaint", "backgrounds/blend.h", 0, 41, "Blend painter without a window",
      "The blend painter without a window of its own; with PassMouseOn the mouse goes through it "
      "to what lies beneath.",
-     make<TqNWBlendPaint>, nullptr, true},
+     make<TqNWBlendPaint>, poseNWBlendPaint, true},
     {"TqTileMap", "backgrounds/blend.h", 0, 10, "Tile map",
      "A control tiled with a bitmap from its top-left corner.",
-     make<TqTileMap>, nullptr, true},
+     make<TqTileMap>, poseTileMap<TqTileMap>, true},
     {"TqNWTileMap", "backgrounds/blend.h", 0, 42, "Tile map without a window",
      "The tile map without a window of its own; with PassMouseOn the mouse goes through it to "
      "what lies beneath.",
-     make<TqNWTileMap>, nullptr, true},
+     make<TqNWTileMap>, poseNWTileMap, true},
     {"TqLed", "indicators/qled.h", 0, 11, "LED lamp",
      "A round or square LED in eight colours, lit or unlit, with a grey bezel, optionally "
      "on the steel texture; it can blink by itself.",
@@ -229,15 +404,15 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqFrame", "buttons/qanimate.h", 0, 17, "Frame",
      "A lowered or raised box, an etched frame, or an etched line along one edge, for grouping "
      "controls on a panel.",
-     make<TqFrame>, nullptr, true},
+     make<TqFrame>, poseFrame, true},
     {"TqDivider", "buttons/qanimate.h", 0, 18, "Divider",
      "An etched line across a panel, horizontal or vertical; a horizontal one may carry a "
      "caption.",
-     make<TqDivider>, nullptr, true},
+     make<TqDivider>, poseDivider, true},
     {"TqMovePanel", "services/mystd.h", 0, 19, "Move panel",
      "A panel the user drags inside its parent; it can stick to an edge by placement or by "
      "alignment, and OnBeforeUpdate may change or refuse each move.",
-     make<TqMovePanel>, nullptr, true},
+     make<TqMovePanel>, poseMovePanel, true, "", true},
     {"TqScope", "instruments/qpanel.h", 0, 32, "Trace display",
      "Two channels of pushed samples drawn as scrolling beams over a grid, the newest at "
      "the right edge.",
@@ -245,11 +420,11 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqVerSplit", "layout/qsplit.h", 0, 23, "Splitter panel, vertical bar",
      "A panel divided by a bar that moves left and right; the controls on either side move "
      "with the bar. WhereSplit is the bar's left edge.",
-     make<TqVerSplit>, nullptr, true},
+     make<TqVerSplit>, poseSplit<TqVerSplit>, true, "", true},
     {"TqHorSplit", "layout/qsplit.h", 0, 24, "Splitter panel, horizontal bar",
      "A panel divided by a bar that moves up and down; the controls above and below it move "
      "with the bar. WhereSplit is the bar's top edge.",
-     make<TqHorSplit>, nullptr, true},
+     make<TqHorSplit>, poseSplit<TqHorSplit>, true, "", true},
     {"TqPanelMeter", "instruments/qpanel.h", 0, 33, "Needle meter",
      "An analogue panel meter: round scale with a needle, or an edgewise scale with a "
      "pointer, with an alert zone that raises events when the value crosses it.",
@@ -310,7 +485,7 @@ const std::vector<TComponentEntry> kComponents = {
     {"Tq3DLabel", "labels/labels.h", 2, 3, "3D label",
      "A caption raised from the panel or pressed into it, with highlight and shadow colours and "
      "a depth.",
-     make<Tq3DLabel>, nullptr, true},
+     make<Tq3DLabel>, pose3DLabel, true},
     {"TqAngleLabel", "labels/labels.h", 2, 4, "Angle label",
      "A caption drawn at any angle, turning about its centre or one of its ends, the control "
      "sized to hold it.",
@@ -329,14 +504,14 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqBitColBtn", "buttons/qanimate.h", 2, 30, "Bitmap colour button",
      "The colour button with a bitmap glyph beside or above its caption; the glyph's "
      "bottom-left colour is see-through, and it greys when the button is disabled.",
-     make<TqBitColBtn>, nullptr, true},
+     make<TqBitColBtn>, poseBitColBtn, true},
     {"TqIconColBtn", "buttons/qanimate.h", 2, 31, "Icon colour button",
      "The colour button with an icon beside or above its caption, drawn at the size asked for.",
-     make<TqIconColBtn>, nullptr, true},
+     make<TqIconColBtn>, poseIconColBtn, true},
     {"TqMouseSpot", "labels/labels.h", 2, 25, "Link label",
      "A caption that takes another colour, an underline and the pointing hand while the mouse "
      "is over it, and clicks.",
-     make<TqMouseSpot>, nullptr, true},
+     make<TqMouseSpot>, poseMouseSpot, true},
     {"TqKnob", "instruments/qpanel.h", 2, 34, "Rotary knob",
      "A shaded, round knob whose pointer shows a value; the value follows the mouse angle "
      "around the centre, or the keyboard.",
@@ -356,13 +531,13 @@ const std::vector<TComponentEntry> kComponents = {
     {"TqNWColorBtn", "buttons/qanimate.h", 2, 38, "Colour button without a window",
      "The colour button as a graphic control: no focus, but it can be transparent, "
      "optionally lightened by a grey glass.",
-     make<TqNWColorBtn>, poseButton<TqNWColorBtn>, true},
+     make<TqNWColorBtn>, poseNWColorBtn, true},
     {"TqNWBitColBtn", "buttons/qanimate.h", 2, 39, "Bitmap colour button without a window",
      "The non-windowed colour button with a bitmap glyph beside or above its caption.",
-     make<TqNWBitColBtn>, nullptr, true},
+     make<TqNWBitColBtn>, poseNWBitColBtn, true},
     {"TqNWIconColBtn", "buttons/qanimate.h", 2, 40, "Icon colour button without a window",
      "The non-windowed colour button with an icon beside or above its caption.",
-     make<TqNWIconColBtn>, nullptr, true},
+     make<TqNWIconColBtn>, poseNWIconColBtn, true},
 };
 
 // Classes of the collection that are not in the widget box: made in code.

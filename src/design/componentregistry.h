@@ -27,6 +27,9 @@ struct TComponentEntry
     bool visual;               // false for the components that sit on a form as a face
     // Shown but not editable in the designer (comma-separated names).
     const char *readOnlyProperties = "";
+    // Holds the controls dropped on it in the designer (they are its
+    // children in the stored form).
+    bool container = false;
 };
 
 // The widget-box group names.

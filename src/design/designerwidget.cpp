@@ -24,6 +24,7 @@ QString TDesignerWidget::toolTip() const { return QString::fromLatin1(FEntry.too
 QString TDesignerWidget::whatsThis() const { return QString::fromLatin1(FEntry.whatsThis); }
 QString TDesignerWidget::includeFile() const { return QString::fromLatin1(FEntry.includeFile); }
 QIcon TDesignerWidget::icon() const { return ComponentIcon(FEntry); }
+bool TDesignerWidget::isContainer() const { return FEntry.container; }
 
 QWidget *TDesignerWidget::createWidget(QWidget *parent)
 {
@@ -52,7 +53,7 @@ void TDesignerWidget::initialize(QDesignerFormEditorInterface *core)
     if (!manager || manager->findChild<TTaskMenuFactory *>())
         return;
     manager->registerExtensions(new TTaskMenuFactory(manager), Q_TYPEID(QDesignerTaskMenuExtension));
-    manager->registerExtensions(new TPropertySheetFactory(manager), Q_TYPEID(QDesignerPropertySheetExtension));
+    TPropertySheetFactory::Register(manager);
 }
 
 QString TDesignerWidget::domXml() const

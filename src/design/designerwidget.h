@@ -24,7 +24,7 @@ public:
     QString whatsThis() const override;
     QString includeFile() const override;
     QIcon icon() const override;
-    bool isContainer() const override { return false; }
+    bool isContainer() const override;
     QWidget *createWidget(QWidget *parent) override;
     // Set up by a Designer core (which then makes components in design
     // mode); a form loader that finds the plugin makes run-time ones.

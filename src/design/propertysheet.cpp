@@ -4,14 +4,14 @@
 
 #include "host/tcolor.h"
 #include "host/tcomponent.h"
+#include "host/tcontrol.h"
 
 #include <QtDesigner/QExtensionManager>
 
 #include <QColor>
 #include <QMetaProperty>
 
-TPropertySheet::TPropertySheet(QObject *object, QDesignerPropertySheetExtension *inner, QObject *parent)
-    : QObject(parent), FObject(object), FInner(inner)
+TPropertySheet::TPropertySheet(QObject *object, QObject *parent) : QDesignerPropertySheet(object, parent)
 {
     if (const TComponentEntry *entry = FindComponent(object))
         for (const QString &name : ReadOnlyProperties(*entry))
@@ -20,22 +20,22 @@ TPropertySheet::TPropertySheet(QObject *object, QDesignerPropertySheetExtension 
 
 bool TPropertySheet::isColorProperty(int index) const
 {
-    const QMetaObject *meta = FObject->metaObject();
-    const int p = meta->indexOfProperty(FInner->propertyName(index).toLatin1().constData());
+    const QMetaObject *meta = object()->metaObject();
+    const int p = meta->indexOfProperty(propertyName(index).toLatin1().constData());
     return p >= 0 && IsColorProperty(meta->property(p));
 }
 
 bool TPropertySheet::isVisible(int index) const
 {
     // A non-visual component's Name is its objectName, which Designer shows.
-    if (qobject_cast<TComponent *>(FObject) && FInner->propertyName(index) == QLatin1String("Name"))
+    if (qobject_cast<TComponent *>(object()) && propertyName(index) == QLatin1String("Name"))
         return false;
-    return FInner->isVisible(index);
+    return QDesignerPropertySheet::isVisible(index);
 }
 
 QVariant TPropertySheet::property(int index) const
 {
-    const QVariant value = FInner->property(index);
+    const QVariant value = QDesignerPropertySheet::property(index);
     if (isColorProperty(index))
         return ColorToFormColor(value.value<TColor>());
     return value;
@@ -43,30 +43,40 @@ QVariant TPropertySheet::property(int index) const
 
 void TPropertySheet::setProperty(int index, const QVariant &value)
 {
+    // Refused from any editor, not only greyed in Designer's.
+    if (FReadOnly.contains(propertyName(index)))
+        return;
     if (isColorProperty(index) && value.metaType().id() == QMetaType::QColor) {
-        FInner->setProperty(index, QVariant::fromValue(FormColorToColor(value.value<QColor>())));
+        QDesignerPropertySheet::setProperty(index, QVariant::fromValue(FormColorToColor(value.value<QColor>())));
         return;
     }
-    FInner->setProperty(index, value);
+    QDesignerPropertySheet::setProperty(index, value);
+}
+
+bool TPropertySheet::isChanged(int index) const
+{
+    if (QDesignerPropertySheet::isChanged(index))
+        return true;
+    const auto *control = qobject_cast<const TControl *>(object());
+    return control && (control->ControlStyle() & csSetCaption) && !control->Text().isEmpty()
+        && propertyName(index) == QLatin1String("Caption");
 }
 
 bool TPropertySheet::isEnabled(int index) const
 {
-    return !FReadOnly.contains(FInner->propertyName(index)) && FInner->isEnabled(index);
+    return !FReadOnly.contains(propertyName(index)) && QDesignerPropertySheet::isEnabled(index);
 }
 
-TPropertySheetFactory::TPropertySheetFactory(QExtensionManager *parent) : QExtensionFactory(parent) {}
+TPropertySheetFactory::TPropertySheetFactory(QExtensionManager *parent) : QDesignerAbstractPropertySheetFactory(parent) {}
 
-QObject *TPropertySheetFactory::createExtension(QObject *object, const QString &iid, QObject *parent) const
+void TPropertySheetFactory::Register(QExtensionManager *manager)
 {
-    if (FAskingOthers || iid != QLatin1String(Q_TYPEID(QDesignerPropertySheetExtension))
-        || !FindComponent(object))
-        return nullptr;
-    FAskingOthers = true;
-    auto *inner = qt_extension<QDesignerPropertySheetExtension *>(
-        static_cast<QAbstractExtensionManager *>(extensionManager()), object);
-    FAskingOthers = false;
-    if (!inner)
-        return nullptr;
-    return new TPropertySheet(object, inner, parent);
+    auto *factory = new TPropertySheetFactory(manager);
+    manager->registerExtensions(factory, Q_TYPEID(QDesignerPropertySheetExtension));
+    manager->registerExtensions(factory, Q_TYPEID(QDesignerDynamicPropertySheetExtension));
+}
+
+QObject *TPropertySheetFactory::createPropertySheet(QObject *object, QObject *parent) const
+{
+    return FindComponent(object) ? new TPropertySheet(object, parent) : nullptr;
 }

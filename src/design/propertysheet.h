@@ -1,61 +1,48 @@
 #pragma once
-// What Designer's property editor sees of a component: its own property
-// sheet, with every TColor property shown and edited as a colour (system
-// colours kept, see ColorToFormColor), the read-only properties of the
-// component's entry disabled, and Name left to Designer's objectName.
+// What Designer's property editor sees of a component: Designer's own
+// property sheet, with every TColor property shown and edited as a colour
+// (system colours kept, see ColorToFormColor), the read-only properties of
+// the component's entry shown greyed and refusing edits, and Name left to
+// Designer's objectName. It is Designer's sheet class itself, since the
+// property editor asks only that class whether a property is enabled.
 
-#include <QtDesigner/QDesignerPropertySheetExtension>
-#include <QtDesigner/QExtensionFactory>
+#include <QtDesigner/private/qdesigner_propertysheet_p.h>
 
 #include <QObject>
 #include <QSet>
 
-class TPropertySheet : public QObject, public QDesignerPropertySheetExtension
+class TPropertySheet : public QDesignerPropertySheet
 {
     Q_OBJECT
-    Q_INTERFACES(QDesignerPropertySheetExtension)
 
 public:
-    // `inner` is the sheet Designer would have used; it stays the owner of
-    // the changed flags, groups and attributes.
-    TPropertySheet(QObject *object, QDesignerPropertySheetExtension *inner, QObject *parent);
+    TPropertySheet(QObject *object, QObject *parent);
 
-    int count() const override { return FInner->count(); }
-    int indexOf(const QString &name) const override { return FInner->indexOf(name); }
-    QString propertyName(int index) const override { return FInner->propertyName(index); }
-    QString propertyGroup(int index) const override { return FInner->propertyGroup(index); }
-    void setPropertyGroup(int index, const QString &group) override { FInner->setPropertyGroup(index, group); }
-    bool hasReset(int index) const override { return FInner->hasReset(index); }
-    bool reset(int index) override { return FInner->reset(index); }
     bool isVisible(int index) const override;
-    void setVisible(int index, bool b) override { FInner->setVisible(index, b); }
-    bool isAttribute(int index) const override { return FInner->isAttribute(index); }
-    void setAttribute(int index, bool b) override { FInner->setAttribute(index, b); }
+    bool isEnabled(int index) const override;
+    // A caption that follows the object name counts as set: the form
+    // stores what the designer shows.
+    bool isChanged(int index) const override;
     QVariant property(int index) const override;
     void setProperty(int index, const QVariant &value) override;
-    bool isChanged(int index) const override { return FInner->isChanged(index); }
-    void setChanged(int index, bool changed) override { FInner->setChanged(index, changed); }
-    bool isEnabled(int index) const override;
 
     bool isColorProperty(int index) const;
 
 private:
-    QObject *FObject;
-    QDesignerPropertySheetExtension *FInner;
     QSet<QString> FReadOnly;
 };
 
-// Makes a TPropertySheet for each of the collection's components, wrapped
-// round the sheet the other factories would give.
-class TPropertySheetFactory : public QExtensionFactory
+// Makes a TPropertySheet for each of the collection's components, for the
+// property sheet and the dynamic property sheet alike; other objects get
+// the sheets of the other factories.
+class TPropertySheetFactory : public QDesignerAbstractPropertySheetFactory
 {
     Q_OBJECT
 public:
     explicit TPropertySheetFactory(QExtensionManager *parent);
-
-protected:
-    QObject *createExtension(QObject *object, const QString &iid, QObject *parent) const override;
+    // Registered for both kinds of sheet, ahead of Designer's own.
+    static void Register(QExtensionManager *manager);
 
 private:
-    mutable bool FAskingOthers = false;
+    QObject *createPropertySheet(QObject *object, QObject *parent) const override;
 };

@@ -6,4 +6,3 @@
 #include "design/componentregistry.h"
 #include "design/designercollection.h"
 #include "design/designerwidget.h"
-#include "design/propertysheet.h"

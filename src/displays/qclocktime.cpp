@@ -26,6 +26,7 @@ QTime TClockWork::Now() const
 
 TClockWork::TClockWork(QWidget *owner, Show show) : FShow(std::move(show)), FTimer(new TqcTimer(owner))
 {
+    FTimer->SetSubComponent(true);   // the clock's own part, no face on the form
     QObject::connect(FTimer, &TqcTimer::OnTimer, FTimer, [this](QObject *) { TimerNu(); });
 }
 

@@ -191,9 +191,14 @@ QColor ColorToFormColor(TColor color)
 
 TColor FormColorToColor(const QColor &color)
 {
+    // The mark of a system colour counts only on that colour as it is: a
+    // colour picked in a dialog that kept the mark is the colour picked.
     const int index = kSystemAlphaTop - color.alpha();
-    if (color.alpha() < 255 && index >= 0 && index < kSystemColors)
-        return clSystemColor | quint32(index);
+    if (color.alpha() < 255 && index >= 0 && index < kSystemColors) {
+        const TColor system = clSystemColor | quint32(index);
+        if (qRgb(color.red(), color.green(), color.blue()) == ColorToQRgb(system))
+            return system;
+    }
     return QColorToColor(color);
 }
 

@@ -81,7 +81,13 @@ TComponent::TComponent(QWidget *owner) : QWidget(owner), TComponentCore(this)
 void TComponent::SetDesigning(bool designing)
 {
     TComponentCore::SetDesigning(designing);
-    setVisible(designing);
+    setVisible(designing && !FSubComponent);
+}
+
+void TComponent::SetSubComponent(bool sub)
+{
+    FSubComponent = sub;
+    setVisible(IsDesigning() && !sub);
 }
 
 bool TComponent::event(QEvent *event)

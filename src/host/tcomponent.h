@@ -86,6 +86,10 @@ public:
     QString Name() const { return objectName(); }
     void SetName(const QString &name) { setObjectName(name); }
     void SetDesigning(bool designing) override;
+    // A part of another component (the clock's timer): never a face of its
+    // own on the form, designing or not.
+    bool IsSubComponent() const { return FSubComponent; }
+    void SetSubComponent(bool sub);
 
     QSize sizeHint() const override { return QSize(28, 28); }
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -94,4 +98,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     // Exceptions escaping an event go to the application object.
     bool event(QEvent *event) override;
+
+private:
+    bool FSubComponent = false;
 };
