@@ -387,6 +387,12 @@ private slots:
         dialog->accept();
         QCOMPARE(label->UnLitColor(), clBtnShadow);
         QCOMPARE(label->LitColor(), clAqua);
+        // One undo takes the dialog's two changes back; redo brings both.
+        d->form->commandHistory()->undo();
+        QCOMPARE(label->UnLitColor(), TColor(0x00002000));
+        QCOMPARE(label->LitColor(), clLime);
+        d->form->commandHistory()->redo();
+        QCOMPARE(label->LitColor(), clAqua);
         // Stored as changed: the saved form brings the system colour back.
         const std::unique_ptr<QWidget> loaded = reloaded();
         QCOMPARE(loaded->findChild<TqcDotLabel *>("label")->UnLitColor(), clBtnShadow);
@@ -400,6 +406,19 @@ private slots:
         QImage tile(8, 6, QImage::Format_RGB32);
         tile.fill(Qt::red);
         QVERIFY(tile.save(file));
+        // The gauge's tiled picture has the editor too.
+        auto *gauge = designOne<TqGauge>("gauge");
+        QAction *glyphVerb = nullptr;
+        for (QAction *a : d->extension<QDesignerTaskMenuExtension>(gauge)->taskActions())
+            if (a->objectName() == QLatin1String("qcolEditGlyph"))
+                glyphVerb = a;
+        QVERIFY(glyphVerb);
+        TqBitmapEditor *glyphs = openEditor<TqBitmapEditor>(gauge, glyphVerb);
+        QVERIFY(glyphs);
+        QVERIFY(glyphs->Load(file));
+        glyphs->accept();
+        QCOMPARE(gauge->Glyph().size(), QSize(8, 6));
+        QTRY_VERIFY(!gauge->window()->findChild<TqBitmapEditor *>());
         auto *map = designOne<TqTileMap>("map");
         QVERIFY(map);
         TqBitmapEditor *editor = openEditor<TqBitmapEditor>(map);
@@ -485,6 +504,16 @@ private slots:
         QVERIFY(clock->Timer()->IsDesigning());
         QVERIFY(clock->Timer()->isHidden());
         QVERIFY(designOne<TqcDotClock>("dots")->Timer()->isHidden());
+        // Controls that draw nothing yet can still be found on the form.
+        auto *picture = design<TqBitmap>(
+            QStringLiteral("<widget class=\"TqBitmap\" name=\"picture\"/><widget class=\"TqAngleLabel\" name=\"angled\"/>"),
+            "picture");
+        auto *angled = d->form->mainContainer()->findChild<TqAngleLabel *>("angled");
+        for (TControl *bare : {static_cast<TControl *>(picture), static_cast<TControl *>(angled)}) {
+            const QImage seen = bare->RenderImage(qRgb(255, 255, 255));
+            QVERIFY2(pixelsWhere(seen, [](QRgb p) { return p != qRgb(255, 255, 255); }).count > 10,
+                     bare->metaObject()->className());
+        }
     }
 
     // Greyed in Designer's own property editor, and refused when set.

@@ -58,6 +58,8 @@ void TqBitmap::Paint(TCanvas &canvas)
             TransparentBlt(canvas, place.x(), place.y(), shown, TransparentColorOf(FPicture));
         else
             canvas.Draw(place.x(), place.y(), shown);
+    } else if (IsDesigning()) {
+        PaintDesignOutline(canvas, width(), height());   // found on the form without a picture
     }
     emit OnPaint(this);
 }

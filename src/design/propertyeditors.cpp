@@ -69,6 +69,7 @@ const std::vector<TPropertyEditorEntry> kEditors = {
     {"TqBitColBtn", "GlyphDown", "Pressed Glyph...", createGlyphDownEditor, bitmapEditorValue},
     {"TqNWBitColBtn", "Glyph", "Glyph...", createGlyphEditor, bitmapEditorValue},
     {"TqNWBitColBtn", "GlyphDown", "Pressed Glyph...", createGlyphDownEditor, bitmapEditorValue},
+    {"TqGauge", "Glyph", "Glyph...", createGlyphEditor, bitmapEditorValue},
     {"TqSplashForm", "Bitmap", "Bitmap...", createBitmapEditor, bitmapEditorValue},
     {"TqAngleLabel", "Angle", "Angle...", createAngleEditor, angleEditorValue},
     // Every component with a hint: its published Hint, or a control's tool

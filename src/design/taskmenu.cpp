@@ -99,8 +99,14 @@ void TTaskMenu::editColours()
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         if (!FComponent)
             return;
+        // All the dialog's changes are one step to undo.
+        QDesignerFormWindowInterface *form = QDesignerFormWindowInterface::findFormWindow(FComponent);
+        if (form)
+            form->beginCommand(QStringLiteral("Colours"));
         for (const auto &[name, color] : dialog->Changes())
             writeBack(name, QVariant::fromValue(color));
+        if (form)
+            form->endCommand();
     });
     dialog->open();
 }

@@ -83,4 +83,6 @@ void TCaptionLabel::Paint(TCanvas &canvas)
     canvas.Font = CanvasFont();
     canvas.Brush.SetStyle(bsClear);
     PaintCaption(canvas, CaptionAt());
+    if (IsDesigning() && FCaption.isEmpty())
+        PaintDesignOutline(canvas, width(), height());   // found on the form without a caption
 }
