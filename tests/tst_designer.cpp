@@ -516,6 +516,22 @@ private slots:
         }
     }
 
+    // Expressions and command lines are not for translators: stored as they
+    // are, and uic leaves them out of translate().
+    void technicalTextsAreNotTranslated()
+    {
+        auto *calc = designOne<TqCalc>("calc");
+        auto *sheet = d->extension<QDesignerPropertySheetExtension>(calc);
+        QVERIFY(sheet->indexOf("CalcLine") >= 0);
+        d->form->cursor()->setWidgetProperty(calc, QStringLiteral("CalcLine"), QStringLiteral("2*(3+4)"));
+        QCOMPARE(calc->CalcLine(), QStringLiteral("2*(3+4)"));
+        const QString saved = d->form->contents();
+        QVERIFY(saved.contains(QLatin1String("<string notr=\"true\">2*(3+4)</string>")));
+        auto *label = designOne<TqBigLabel>("big");
+        d->form->cursor()->setWidgetProperty(label, QStringLiteral("Caption"), QStringLiteral("Volts"));
+        QVERIFY(d->form->contents().contains(QLatin1String("<string>Volts</string>")));
+    }
+
     // Greyed in Designer's own property editor, and refused when set.
     void calculatorResultsAreReadOnly()
     {

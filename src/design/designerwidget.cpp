@@ -11,6 +11,7 @@
 
 
 #include <QIcon>
+#include <QMetaProperty>
 #include <QPointer>
 #include <QWidget>
 
@@ -56,17 +57,48 @@ void TDesignerWidget::initialize(QDesignerFormEditorInterface *core)
     TPropertySheetFactory::Register(manager);
 }
 
+// How Designer edits and stores the component's text properties: only the
+// texts a user reads are for translators (captions, hints, titles, tips);
+// the others (expressions, command lines, names, formats) are stored as
+// they are, and a button's caption, which may break into lines, is edited
+// as several lines.
+QString TDesignerWidget::propertySpecifications(const QWidget *sample) const
+{
+    QString specs;
+    const QMetaObject *meta = sample->metaObject();
+    for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
+        const QMetaProperty p = meta->property(i);
+        if (p.metaType() != QMetaType::fromType<QString>() || !p.isWritable() || !p.isStored())
+            continue;
+        const QString name = QString::fromLatin1(p.name());
+        const bool lines = name == QLatin1String("Caption") && meta->indexOfProperty("MultipleLines") >= 0;
+        if (IsTextForReaders(name) && !lines)
+            continue;
+        specs += QStringLiteral("   <stringpropertyspecification name=\"%1\" notr=\"%2\" type=\"%3\"/>\n")
+                     .arg(name, IsTextForReaders(name) ? QStringLiteral("false") : QStringLiteral("true"),
+                          lines ? QStringLiteral("multiline") : QStringLiteral("singleline"));
+    }
+    return specs;
+}
+
 QString TDesignerWidget::domXml() const
 {
-    const QSize size = CreateSample(FEntry)->size();
+    const std::unique_ptr<QWidget> sample = CreateSample(FEntry);
+    const QSize size = sample->size();
     QString objectName = name().mid(name().startsWith(QLatin1String("Tqc")) ? 3 : 2);
     objectName[0] = objectName[0].toLower();
-    return QStringLiteral("<ui language=\"c++\">\n"
-                          " <widget class=\"%1\" name=\"%2\">\n"
-                          "  <property name=\"geometry\"><rect><x>0</x><y>0</y><width>%3</width><height>%4</height></rect></property>\n"
-                          " </widget>\n"
-                          "</ui>\n")
-        .arg(name(), objectName)
-        .arg(size.width())
-        .arg(size.height());
+    QString xml = QStringLiteral("<ui language=\"c++\">\n"
+                                 " <widget class=\"%1\" name=\"%2\">\n"
+                                 "  <property name=\"geometry\"><rect><x>0</x><y>0</y><width>%3</width><height>%4</height></rect></property>\n"
+                                 " </widget>\n")
+                      .arg(name(), objectName)
+                      .arg(size.width())
+                      .arg(size.height());
+    const QString specs = propertySpecifications(sample.get());
+    if (!specs.isEmpty())
+        xml += QStringLiteral(" <customwidgets>\n  <customwidget>\n   <class>%1</class>\n"
+                              "   <propertyspecifications>\n%2   </propertyspecifications>\n"
+                              "  </customwidget>\n </customwidgets>\n")
+                   .arg(name(), specs);
+    return xml + QStringLiteral("</ui>\n");
 }

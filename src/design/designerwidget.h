@@ -35,6 +35,8 @@ public:
     const TComponentEntry &Entry() const { return FEntry; }
 
 private:
+    QString propertySpecifications(const QWidget *sample) const;
+
     const TComponentEntry &FEntry;
     QPointer<QDesignerFormEditorInterface> FCore;
 };

@@ -7,9 +7,17 @@
 #include "host/tcontrol.h"
 
 #include <QtDesigner/QExtensionManager>
+#include <QtDesigner/private/qdesigner_utils_p.h>
 
 #include <QColor>
 #include <QMetaProperty>
+
+bool IsTextForReaders(const QString &property)
+{
+    static const QStringList readable = {QStringLiteral("Caption"), QStringLiteral("Hint"), QStringLiteral("Title"),
+                                         QStringLiteral("ToolTip")};
+    return readable.contains(property);
+}
 
 TPropertySheet::TPropertySheet(QObject *object, QObject *parent) : QDesignerPropertySheet(object, parent)
 {
@@ -46,6 +54,21 @@ void TPropertySheet::setProperty(int index, const QVariant &value)
     // Refused from any editor, not only greyed in Designer's.
     if (FReadOnly.contains(propertyName(index)))
         return;
+    // A technical text is stored as it is, kept from translators.
+    if (value.canConvert<qdesigner_internal::PropertySheetStringValue>() || value.metaType() == QMetaType::fromType<QString>()) {
+        const QMetaObject *meta = object()->metaObject();
+        const int p = meta->indexOfProperty(propertyName(index).toLatin1().constData());
+        if (p >= 0 && meta->property(p).metaType() == QMetaType::fromType<QString>()
+            && !IsTextForReaders(propertyName(index))) {
+            qdesigner_internal::PropertySheetStringValue text =
+                value.metaType() == QMetaType::fromType<QString>()
+                    ? qdesigner_internal::PropertySheetStringValue(value.toString())
+                    : value.value<qdesigner_internal::PropertySheetStringValue>();
+            text.setTranslatable(false);
+            QDesignerPropertySheet::setProperty(index, QVariant::fromValue(text));
+            return;
+        }
+    }
     if (isColorProperty(index) && value.metaType().id() == QMetaType::QColor) {
         QDesignerPropertySheet::setProperty(index, QVariant::fromValue(FormColorToColor(value.value<QColor>())));
         return;

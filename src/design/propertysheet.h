@@ -11,6 +11,11 @@
 #include <QObject>
 #include <QSet>
 
+// Whether a text property holds text for the user to read (a caption, a
+// hint, a title, a tip), which translators translate; the others hold
+// expressions, command lines, names and formats, stored as they are.
+bool IsTextForReaders(const QString &property);
+
 class TPropertySheet : public QDesignerPropertySheet
 {
     Q_OBJECT
