@@ -365,10 +365,19 @@ private slots:
         sheet->setChanged(color, true);
         QCOMPARE(seg->Color(), clBtnFace);
         QCOMPARE(sheet->property(color).value<QColor>().rgb(), ColorToQRgb(clBtnFace));
-        // Name is Designer's objectName; it is not shown twice.
+        // One row for each thing: Name is Designer's objectName, a face has
+        // no widget properties, a control's size is its geometry, its Hint
+        // its tool tip.
         auto *timerSheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqcTimer>("timer"));
-        QVERIFY(!timerSheet->isVisible(timerSheet->indexOf("Name")));
-        QVERIFY(timerSheet->isVisible(timerSheet->indexOf("Interval")));
+        for (const char *hidden : {"Name", "palette", "font", "sizePolicy", "minimumSize", "toolTip", "enabled"})
+            QVERIFY2(!timerSheet->isVisible(timerSheet->indexOf(hidden)), hidden);
+        for (const char *shown : {"objectName", "geometry", "Interval", "Tag"})
+            QVERIFY2(timerSheet->isVisible(timerSheet->indexOf(shown)), shown);
+        auto *ledSheet = d->extension<QDesignerPropertySheetExtension>(designOne<TqLed>("led"));
+        for (const char *hidden : {"Width", "Height", "toolTip"})
+            QVERIFY2(!ledSheet->isVisible(ledSheet->indexOf(hidden)), hidden);
+        for (const char *shown : {"geometry", "Hint", "palette", "LEDColor"})
+            QVERIFY2(ledSheet->isVisible(ledSheet->indexOf(shown)), shown);
     }
 
     void systemColoursAreChosenInTheColoursDialog()

@@ -33,12 +33,27 @@ bool TPropertySheet::isColorProperty(int index) const
     return p >= 0 && IsColorProperty(meta->property(p));
 }
 
+// One row for each thing the user sets: a non-visual component's face has
+// no widget properties (only its name and place), its Name is Designer's
+// objectName; a control's Width and Height are in its geometry, its Hint is
+// its tool tip and its Enabled the widget's own.
 bool TPropertySheet::isVisible(int index) const
 {
-    // A non-visual component's Name is its objectName, which Designer shows.
-    if (qobject_cast<TComponent *>(object()) && propertyName(index) == QLatin1String("Name"))
+    if (!QDesignerPropertySheet::isVisible(index))
         return false;
-    return QDesignerPropertySheet::isVisible(index);
+    const QString name = propertyName(index);
+    const QMetaObject *meta = object()->metaObject();
+    const int p = meta->indexOfProperty(name.toLatin1().constData());
+    const bool widgets = p >= 0 && p < QWidget::staticMetaObject.propertyCount();
+    if (qobject_cast<TComponent *>(object()))
+        return name != QLatin1String("Name")
+            && (!widgets || name == QLatin1String("objectName") || name == QLatin1String("geometry"));
+    if (widgets)
+        return !((name == QLatin1String("toolTip") && meta->indexOfProperty("Hint") >= 0)
+                 || (name == QLatin1String("enabled") && meta->indexOfProperty("Enabled") >= 0));
+    if (p >= 0 && !meta->property(p).isStored() && (name == QLatin1String("Width") || name == QLatin1String("Height")))
+        return false;
+    return true;
 }
 
 QVariant TPropertySheet::property(int index) const
