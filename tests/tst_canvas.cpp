@@ -2,6 +2,7 @@
 #include "host/tbitmap.h"
 #include "host/tregion.h"
 #include "services/std2.h"
+#include "host/tblend.h"
 #include "testutil.h"
 
 namespace {
@@ -182,6 +183,36 @@ private slots:
         clear.canvas.TextRect(Rect(0, 0, 20, 40), 10, 5, QStringLiteral("Hello"));
         QVERIFY(clear.ink().right() < 20);
         QCOMPARE(clear.count(clYellow), 0);
+    }
+
+    // Numbers far beyond the picture cost no more than the picture: a bevel
+    // as wide as the ints go, a pen as wide, a blend of two billion bands.
+    void hostileNumbersStayWithinThePicture()
+    {
+        Surface bevel(40, 30);
+        TRect r = Rect(0, 0, 40, 30);
+        Frame3D(bevel.canvas, r, clWhite, clBlack, 16777216);
+        QCOMPARE(bevel.at(0, 0), clWhite);
+        QCOMPARE(bevel.at(39, 29), clBlack);
+        Surface framedOnce(40, 30);
+        TRect once = Rect(0, 0, 40, 30);
+        Frame3D(framedOnce.canvas, once, clWhite, clBlack, 16);
+        QCOMPARE(bevel.image, framedOnce.image);   // framed to the middle, then no more rounds
+
+        Surface pen(40, 30);
+        pen.canvas.Pen.SetWidth(INT_MAX / 2);
+        pen.canvas.Ellipse(5, 5, 35, 25);
+        QCOMPARE(pen.count(clRed), 40 * 30);   // the pen covers all
+
+        Surface bands(20, 50);
+        PaintBlend(bands.canvas, gVert, 1881981191, TBlend(clBlack, clWhite), 0, 0, 20, 50, Rect(0, 0, 20, 50));
+        // Each row shows the band covering it: the first rows belong to the
+        // bands of no height, so the first row shown is band 18819811's.
+        QCOMPARE(bands.at(5, 0), TColor(0x00030303));
+        QCOMPARE(bands.at(5, 49), TColor(0x00FCFCFC));
+        Surface all(20, 50);
+        PaintBlend(all.canvas, gHorz, INT_MAX, TBlend(clBlack, clWhite), 0, 0, 20, 50, Rect(0, 0, 20, 50));
+        QCOMPARE(all.at(0, 5), TColor(0x00060606));
     }
 
     void drawTextMeasuresAndAligns()

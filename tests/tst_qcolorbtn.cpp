@@ -168,6 +168,16 @@ private slots:
         QTest::keyClick(apply, Qt::Key_Return);
         QCOMPARE(log.names, QStringList{"apply"});
         QVERIFY(ok->RenderImage() != apply->RenderImage());
+        // A focused button deleted: the focus moves on, the default takes
+        // Enter again (nothing reaches the button on its way out).
+        delete apply;
+        QTRY_VERIFY(ok->Active());
+        auto *gradient = new TqGradBtn(&form);
+        gradient->show();
+        gradient->setFocus();
+        QVERIFY(gradient->Active());
+        delete gradient;
+        QVERIFY(ok->Active());
     }
 
     void spaceBarPressesAndReleaseClicks()

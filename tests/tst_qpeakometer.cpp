@@ -11,8 +11,16 @@ private slots:
     {
         const auto blocks = PeakBlocks(120, 20, 1);   // 101 pixels shared out, 1 between
         QCOMPARE(blocks.size(), size_t(20));
-        QCOMPARE(blocks.front(), qMakePair(0, 5));
-        QCOMPARE(blocks.back().first + blocks.back().second, 120);
+        QCOMPARE(QList<int>({blocks.front().index, blocks.front().from, blocks.front().length}), QList<int>({0, 0, 5}));
+        QCOMPARE(blocks.back().from + blocks.back().length, 120);
+        // More blocks than pixels: a pixel each for the blocks that have one,
+        // the last block at the end; at the largest count nothing overflows.
+        const auto dense = PeakBlocks(10, 25, 0);
+        QCOMPARE(dense.size(), size_t(10));
+        QCOMPARE(dense.back().index, 24);
+        QCOMPARE(dense.back().from, 9);
+        QCOMPARE(PeakBlocks(120, INT_MAX, 0).size(), size_t(120));
+        QVERIFY(PeakBlocks(120, INT_MAX, 1).empty());   // the gaps leave no room
         TqcPeakOmeter meter;
         meter.SetBlocks(10);
         QCOMPARE(meter.BlockColor(6), TColor(clLime));     // top at 70: not above YellowLevel

@@ -118,6 +118,16 @@ private slots:
         TqCompCanvas canvas(&panel.form);
         canvas.SetControlComponent(QStringLiteral("dial"));
         QCOMPARE(canvas.Control(), panel.control);
+        // Itself, or another component, is no control: the dial stays.
+        canvas.setObjectName(QStringLiteral("canvas"));
+        auto *timer = new TqcTimer(&panel.form);
+        timer->setObjectName(QStringLiteral("timer"));
+        for (const char *name : {"canvas", "timer", "nothing"}) {
+            canvas.SetControlComponent(QString::fromLatin1(name));
+            QCOMPARE(canvas.Control(), panel.control);
+        }
+        canvas.SetControl(&canvas);
+        QCOMPARE(canvas.Control(), panel.control);
         canvas.StartPaint();
         delete panel.control;
         QVERIFY(!canvas.Drawing());

@@ -8,6 +8,8 @@
 
 #include <QPixmap>
 
+#include <algorithm>
+
 template <class Base>
 class TTilePainter : public Base
 {
@@ -36,10 +38,14 @@ protected:
             canvas.Brush.SetColor(this->Color());
             canvas.FillRect(Rect(0, 0, w, h));
         }
-        if (!FBitmap.isNull())
-            for (int x = 0; x < w; x += FBitmap.width())
-                for (int y = 0; y < h; y += FBitmap.height())
+        if (!FBitmap.isNull()) {
+            // The tiles on the picture only, however large the control.
+            const int right = canvas.Image() ? std::min(w, canvas.Image()->width()) : w;
+            const int bottom = canvas.Image() ? std::min(h, canvas.Image()->height()) : h;
+            for (int x = 0; x < right; x += FBitmap.width())
+                for (int y = 0; y < bottom; y += FBitmap.height())
                     canvas.Draw(x, y, FBitmap);
+        }
         if (this->IsDesigning())
             PaintDesignOutline(canvas, w, h);
         DoOnPaint();

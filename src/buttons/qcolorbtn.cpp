@@ -5,7 +5,12 @@
 TqColorBtn::TqColorBtn(QWidget *parent) : TColorButton<TCustomControl>(parent)
 {
     SetTabStop(true);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { focusChanged(now); });
+    FFocusWatch = connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { focusChanged(now); });
+}
+
+TqColorBtn::~TqColorBtn()
+{
+    disconnect(FFocusWatch);
 }
 
 void TqColorBtn::SetDefault(bool isDefault)

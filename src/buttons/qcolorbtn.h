@@ -43,6 +43,9 @@ public:
            mrAll = 8, mrNoToAll = 9, mrYesToAll = 10 };
 
     explicit TqColorBtn(QWidget *parent = nullptr);
+    // Hears no more of the focus: the widget's own destructor moves the
+    // focus away from a focused button.
+    ~TqColorBtn() override;
 
     int HelpContext() const { return FHelpContext; }
     void SetHelpContext(int context) { FHelpContext = context; }
@@ -79,4 +82,5 @@ private:
     int FModalResult = mrNone;
     bool FDefault = false;
     bool FActive = false;
+    QMetaObject::Connection FFocusWatch;
 };

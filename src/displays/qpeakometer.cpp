@@ -3,15 +3,24 @@
 #include <algorithm>
 #include <cmath>
 
-std::vector<QPair<int, int>> PeakBlocks(int length, int blocks, int gap)
+std::vector<TPeakBlock> PeakBlocks(int length, int blocks, int gap)
 {
-    std::vector<QPair<int, int>> out;
-    if (blocks <= 0)
+    std::vector<TPeakBlock> out;
+    if (blocks <= 0 || length <= 0)
         return out;
-    const int room = std::max(0, length - gap * (blocks - 1));
-    for (int i = 0; i < blocks; ++i) {
-        const int from = i * room / blocks + i * gap, to = (i + 1) * room / blocks + i * gap;
-        out.push_back({from, to - from});
+    const qint64 b = blocks, room = std::max<qint64>(0, length - qint64(gap) * (b - 1));
+    // Block i spans room * i / b .. room * (i + 1) / b, moved on by its gaps.
+    const auto start = [&](qint64 i) { return room * i / b; };
+    if (b <= room) {
+        for (qint64 i = 0; i < b; ++i)
+            out.push_back({int(i), int(start(i) + i * gap), int(start(i + 1) - start(i))});
+        return out;
+    }
+    // More blocks than pixels: pixel k belongs to the first block whose end
+    // passes it; the others are no pixel long.
+    for (qint64 k = 1; k <= room; ++k) {
+        const qint64 i = (k * b + room - 1) / room - 1;
+        out.push_back({int(i), int(k - 1 + i * gap), 1});
     }
     return out;
 }
@@ -110,7 +119,7 @@ int TqcPeakOmeter::PeakBlock() const
 
 TColor TqcPeakOmeter::BlockColor(int i) const
 {
-    const int top = (i + 1) * 100 / FBlocks;   // the block's top, in percent
+    const qint64 top = (qint64(i) + 1) * 100 / FBlocks;   // the block's top, in percent
     return top > FRed ? FRedColor : top > FYellow ? FYellowColor : FGreenColor;
 }
 
@@ -124,13 +133,12 @@ void TqcPeakOmeter::Paint(TCanvas &canvas)
     const auto blocks = PeakBlocks(vertical ? h : w, FBlocks, FGap);
     FShownLit = LitBlocks();
     FShownPeak = PeakBlock();
-    for (int i = 0; i < int(blocks.size()); ++i) {
+    for (const auto &[i, from, length] : blocks) {
         const bool lit = i < FShownLit || i == FShownPeak;
         const QRgb c = ColorToQRgb(BlockColor(i));
         canvas.Brush.SetColor(lit ? BlockColor(i)
                                   : TColor(quint32(qRed(c) * FUnlit / 100) | quint32(qGreen(c) * FUnlit / 100) << 8
                                            | quint32(qBlue(c) * FUnlit / 100) << 16));
-        const auto [from, length] = blocks[i];
         if (vertical)
             canvas.FillRect(Rect(0, h - from - length, w, h - from));
         else

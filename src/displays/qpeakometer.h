@@ -21,9 +21,15 @@
 
 #include <vector>
 
-// The blocks along a length: block i from its start, `gap` pixels apart,
-// the lengths shared out so that they fill the length.
-std::vector<QPair<int, int>> PeakBlocks(int length, int blocks, int gap);
+// The blocks along a length that are at least a pixel long, `gap` pixels
+// apart, the lengths shared out so that they fill the length: each its
+// number, its start and its length. However many blocks are asked for, no
+// more come than the length has pixels.
+struct TPeakBlock
+{
+    int index, from, length;
+};
+std::vector<TPeakBlock> PeakBlocks(int length, int blocks, int gap);
 // The peak `sinceTop` ms after it was set at `top`: held for `hold` ms,
 // then falling `fall` a second (in value units), never below `value`.
 double PeakLevel(double top, double value, qint64 sinceTop, int hold, double fall);

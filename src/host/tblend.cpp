@@ -25,15 +25,35 @@ void PaintBlend(TCanvas &canvas, gradType type, int bands, const TBlend &blend, 
     canvas.Brush.SetStyle(bsSolid);
     if (type != gCenter) {
         const int n = bands;
-        for (int i = 0; i <= n; ++i) {
+        const int extent = type == gVert ? h : w;
+        if (n < 0 || extent <= 0)
+            return;
+        // Band i spans edge(i) .. edge(i + 1): rounded as MulDiv rounds.
+        const qint64 count = qint64(n) + 1;
+        const auto edge = [&](qint64 i) { return int((i * extent + count / 2) / count); };
+        const auto strip = [&](int from, int to, int i) {
             canvas.Brush.SetColor(blend.Step(i, n));
-            if (type == gVert) {
-                const int top = MulDiv(i, h, n + 1);
-                canvas.PatBlt(x, y + top, w, MulDiv(i + 1, h, n + 1) - top, PATCOPY);
-            } else {
-                const int left = MulDiv(i, w, n + 1);
-                canvas.PatBlt(x + left, y, MulDiv(i + 1, w, n + 1) - left, h, PATCOPY);
-            }
+            if (type == gVert)
+                canvas.PatBlt(x, y + from, w, to - from, PATCOPY);
+            else
+                canvas.PatBlt(x + from, y, to - from, h, PATCOPY);
+        };
+        // Only the rows (columns) on the picture, each band once: with more
+        // bands than rows most are no row high, and a row shows the band
+        // that covers it.
+        int row = 0, end = extent;
+        if (const QImage *image = canvas.Image()) {
+            const qint64 origin = type == gVert ? y : x, size = type == gVert ? image->height() : image->width();
+            row = int(std::clamp<qint64>(-origin, 0, extent));
+            end = int(std::clamp<qint64>(size - origin, row, extent));
+        }
+        while (row < end) {
+            // The covering band is the last to start at or before the row:
+            // edge(i) <= row exactly while i * extent < (row + 1) * count - count / 2.
+            const qint64 i = std::clamp<qint64>(((qint64(row) + 1) * count - count / 2 - 1) / extent, 0, n);
+            const int next = std::min(edge(i + 1), end);
+            strip(row, next, int(i));
+            row = next;
         }
         return;
     }

@@ -307,6 +307,15 @@ QRegion TCanvas::wideOutline(const Raster::Points &points, bool close) const
     while (pts.size() > 2 && pts[pts.size() - 1] == pts[pts.size() - 2])
         pts.pop_back();
     const int w = Pen.Width();
+    // A pen so wide that one tip, wherever on the path, covers the path and
+    // the whole picture paints all of the picture: no wider one is drawn.
+    if (FImage && !pts.empty()) {
+        QRect reach = FImage->rect();
+        for (const TPoint &p : pts)
+            reach |= QRect(p.X, p.Y, 1, 1);
+        if (qint64(w) / 2 > qint64(reach.width()) + reach.height() + 2)
+            return QRegion(FImage->rect());
+    }
     const QRegion tip = TRegion(Raster::RoundRectRegionSpans(
         -(w / 2), -(w / 2), (w + 1) / 2 + 1, (w + 1) / 2 + 1, w + 1, w + 1)).ToQRegion();
     QRegion out;
@@ -843,6 +852,9 @@ void Frame3D(TCanvas &canvas, TRect &r, TColor top, TColor bottom, int width)
     canvas.Pen.SetStyle(psSolid);
     r.Bottom -= 1;
     r.Right -= 1;
+    // Each round frames the rectangle one pixel further in: once nothing is
+    // left inside, more rounds have nothing left to frame.
+    width = int(std::min<qint64>(width, (std::min<qint64>(qint64(r.Right) - r.Left, qint64(r.Bottom) - r.Top) + 1) / 2 + 1));
     while (width-- > 0) {
         const TPoint topLeft{r.Left, r.Top}, topRight{r.Right, r.Top};
         const TPoint bottomLeft{r.Left, r.Bottom}, bottomRight{r.Right, r.Bottom};

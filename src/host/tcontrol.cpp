@@ -481,6 +481,8 @@ void TControl::paintEvent(QPaintEvent *)
     if (FBuffer.size() != size()) {
         FBuffer = QImage(size(), QImage::Format_RGB32);
         FPictureValid = false;
+        if (FBuffer.isNull())   // more than memory holds: nothing is painted
+            return;
     }
     if (!opaque)
         copyBeneath(painter);

@@ -100,8 +100,15 @@ void TqCompCanvas::SetControlComponent(const QString &name)
         QWidget *form = FindForm(this);
         control = form->objectName() == name ? form : form->findChild<QWidget *>(name);
     }
-    if (control || name.isEmpty())
+    if (control ? isControl(control) : name.isEmpty())
         SetControl(control);
+}
+
+// What a canvas can draw on: a control, not itself or another component's
+// face.
+bool TqCompCanvas::isControl(const QWidget *control) const
+{
+    return control != this && !qobject_cast<const TComponent *>(control);
 }
 
 void TqCompCanvas::Loaded()
@@ -113,6 +120,8 @@ void TqCompCanvas::Loaded()
 
 void TqCompCanvas::SetControl(QWidget *control)
 {
+    if (control && !isControl(control))
+        return;   // the old control stays, as for an unknown name
     if (FControl && FDrawing)
         stop();
     if (FControl)

@@ -8,8 +8,10 @@
 //
 // ControlComponent names the control in the designer (a control of the same
 // form, by its object name); a program may give the control itself with
-// SetControl. A control that goes away while drawing ends the session and
-// leaves the component without a control.
+// SetControl; a name or widget that is no control (the component itself,
+// another component's face) keeps the control there was. A control that
+// goes away while drawing ends the session and leaves the component
+// without a control.
 
 #include "host/tcanvas.h"
 #include "host/tcomponent.h"
@@ -57,6 +59,7 @@ protected:
     void Loaded() override;
 
 private:
+    bool isControl(const QWidget *control) const;
     void stop();
     void controlGone();
 
