@@ -696,6 +696,34 @@ private slots:
             QCOMPARE(requests[0].page, QLatin1String(page));
             QCOMPARE(requests[1].page, QStringLiteral("index.html"));
         }
+        // Qt Assistant is started once and told each page through its
+        // remote control (a stand-in that writes down what it is told).
+        SetHelpViewer({});
+        if (QFileInfo::exists(HelpDirectory() + QStringLiteral("/qcol.qhc"))) {
+            QTemporaryDir dir;
+            const QString log = dir.filePath(QStringLiteral("told")), program = dir.filePath(QStringLiteral("assistant"));
+            QFile script(program);
+            QVERIFY(script.open(QIODevice::WriteOnly));
+            script.write("#!/bin/sh\necho \"start $*\" >> \"$QCOL_TOLD\"\n"
+                         "while read line; do echo \"$line\" >> \"$QCOL_TOLD\"; done\n");
+            script.close();
+            script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
+            qputenv("QCOL_ASSISTANT", program.toLocal8Bit());
+            qputenv("QCOL_TOLD", log.toLocal8Bit());
+            QVERIFY(ShowHelpTopic(13, &d->top));
+            QVERIFY(ShowHelpIndex(&d->top));
+            qunsetenv("QCOL_ASSISTANT");
+            const auto told = [&] {
+                QFile f(log);
+                return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+                                                   : QStringList();
+            };
+            QTRY_COMPARE(told().size(), 5);
+            QCOMPARE(told().filter(QStringLiteral("start ")).size(), 1);
+            QVERIFY(told().at(0).contains(QStringLiteral("-enableRemoteControl")));
+            QCOMPARE(told().at(1), QStringLiteral("setSource qthelp://org.quovarsoft.qcol/doc/tqsegmentlabel.html"));
+            QCOMPARE(told().at(3), QStringLiteral("setSource qthelp://org.quovarsoft.qcol/doc/index.html"));
+        }
         // No viewer: the user is told, nothing else happens.
         SetHelpViewer([](const THelpRequest &) { return false; });
         QVERIFY(!ShowHelpTopic(13, &d->top));

@@ -2,11 +2,13 @@
 
 #include "componentregistry.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QMessageBox>
+#include <QPointer>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -20,6 +22,9 @@ THelpViewer &customViewer()
 
 QString assistantProgram()
 {
+    const QString chosen = qEnvironmentVariable("QCOL_ASSISTANT");
+    if (!chosen.isEmpty())
+        return chosen;
     const QString bundled = QLibraryInfo::path(QLibraryInfo::BinariesPath) + QStringLiteral("/assistant");
     if (QFileInfo(bundled).isExecutable())
         return bundled;
@@ -41,9 +46,36 @@ bool defaultViewer(const THelpRequest &request)
     const QString assistant = assistantProgram();
     if (QFileInfo::exists(collection) && !assistant.isEmpty()) {
         const QString url = QStringLiteral("qthelp://%1/doc/%2").arg(QLatin1String(kHelpNamespace), request.page);
-        if (QProcess::startDetached(assistant, {QStringLiteral("-collectionFile"), collection,
-                                                QStringLiteral("-showUrl"), url}))
+        // One Assistant for all the pages: started once with its remote
+        // control on, then told each page on its standard input.
+        static QPointer<QProcess> running;
+        if (!running || running->state() == QProcess::NotRunning) {
+            delete running;
+            running = new QProcess(qApp);
+            running->setProcessChannelMode(QProcess::ForwardedChannels);
+            QObject::connect(running, &QProcess::finished, running, &QObject::deleteLater);
+            // It goes with the program that opened it.
+            static const bool ending = [] {
+                qAddPostRoutine([] {
+                    if (running) {
+                        running->terminate();
+                        running->waitForFinished(3000);
+                    }
+                });
+                return true;
+            }();
+            Q_UNUSED(ending);
+            running->start(assistant, {QStringLiteral("-collectionFile"), collection,
+                                       QStringLiteral("-enableRemoteControl")});
+            if (!running->waitForStarted(10000)) {
+                delete running;
+                running = nullptr;
+            }
+        }
+        if (running) {
+            running->write(QStringLiteral("setSource %1\nshow contents\n").arg(url).toUtf8());
             return true;
+        }
     }
     const QString html = dir.filePath(QStringLiteral("html/") + request.page);
     return QFileInfo::exists(html) && QDesktopServices::openUrl(QUrl::fromLocalFile(html));

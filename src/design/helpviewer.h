@@ -1,7 +1,9 @@
 #pragma once
-// Opens the help: the Qt Help collection in Qt Assistant where both exist,
-// else the HTML pages in the desktop's browser, else a message that says
-// where the help was looked for.
+// Opens the help: the Qt Help collection in Qt Assistant where both exist
+// (one Assistant, started once and told each page through its remote
+// control; $QCOL_ASSISTANT names another program), else the HTML pages in
+// the desktop's browser, else a message that says where the help was looked
+// for.
 
 #include <QString>
 #include <QUrl>
