@@ -39,6 +39,7 @@
 #include <QDial>
 #include <QPlainTextEdit>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QMetaProperty>
 #include <QPluginLoader>
@@ -145,6 +146,7 @@ struct DesignerCore
         QDesignerComponents::initializeResources();
         core = QDesignerComponents::createFormEditor(nullptr);
         core->setTopLevel(&top);
+        top.menuBar()->addMenu(QStringLiteral("&Help"));   // as Designer's main window has it
         new QDesignerIntegration(core, &top);
         QDesignerComponents::initializePlugins(core);
         QDesignerComponents::createTaskMenu(core, &top);
@@ -724,6 +726,15 @@ private slots:
             QCOMPARE(told().at(1), QStringLiteral("setSource qthelp://org.quovarsoft.qcol/doc/tqsegmentlabel.html"));
             QCOMPARE(told().at(3), QStringLiteral("setSource qthelp://org.quovarsoft.qcol/doc/index.html"));
         }
+        // Designer's Help menu opens the collection's index.
+        QAction *index = d->top.menuBar()->findChild<QAction *>("qcolHelpIndex");
+        QVERIFY(index);
+        QCOMPARE(index->text(), QStringLiteral("QuovarCollection Help"));
+        requests.clear();
+        SetHelpViewer([&](const THelpRequest &r) { requests << r; return true; });
+        index->trigger();
+        QCOMPARE(requests.size(), 1);
+        QCOMPARE(requests[0].page, QStringLiteral("index.html"));
         // No viewer: the user is told, nothing else happens.
         SetHelpViewer([](const THelpRequest &) { return false; });
         QVERIFY(!ShowHelpTopic(13, &d->top));

@@ -2,6 +2,7 @@
 
 #include "componenticon.h"
 #include "componentregistry.h"
+#include "helpviewer.h"
 #include "propertysheet.h"
 #include "taskmenu.h"
 
@@ -9,10 +10,13 @@
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QExtensionManager>
 
-
+#include <QApplication>
 #include <QIcon>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMetaProperty>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -43,11 +47,42 @@ QWidget *TDesignerWidget::createWidget(QWidget *parent)
     }
 }
 
+namespace {
+
+// "QuovarCollection Help" in Designer's Help menu, opening the help's
+// index. Designer may build its menus after the plugins: tried again once
+// the event loop runs.
+bool addHelpEntry(QDesignerFormEditorInterface *core)
+{
+    QWidgetList roots = QApplication::topLevelWidgets();
+    if (core->topLevel())
+        roots.prepend(core->topLevel());
+    for (QWidget *root : roots)
+        for (QMenuBar *bar : root->findChildren<QMenuBar *>())
+            for (QAction *entry : bar->actions()) {
+                QMenu *menu = entry->menu();
+                if (!menu || menu->title().remove(QLatin1Char('&')) != QLatin1String("Help"))
+                    continue;
+                if (!menu->findChild<QAction *>(QStringLiteral("qcolHelpIndex"))) {
+                    auto *help = new QAction(QStringLiteral("QuovarCollection Help"), menu);
+                    help->setObjectName(QStringLiteral("qcolHelpIndex"));
+                    QObject::connect(help, &QAction::triggered, menu, [menu] { ShowHelpIndex(menu->window()); });
+                    menu->addAction(help);
+                }
+                return true;
+            }
+    return false;
+}
+
+} // namespace
+
 void TDesignerWidget::initialize(QDesignerFormEditorInterface *core)
 {
     if (FCore == core)
         return;
     FCore = core;
+    if (!addHelpEntry(core))
+        QTimer::singleShot(0, core, [core] { addHelpEntry(core); });
     // One pair of factories for each Designer core, however many of the
     // collection's widgets it initialises.
     QExtensionManager *manager = core->extensionManager();
