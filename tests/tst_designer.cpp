@@ -9,6 +9,7 @@
 #include "design/qgaugeeditor.h"
 #include "design/qhinteditor.h"
 #include "design/qshapebtneditor.h"
+#include "design/searchpaths.h"
 #include "displays/qseg.h"
 #include "indicators/qgauge.h"
 #include "indicators/qled.h"
@@ -38,6 +39,7 @@
 #include <QComboBox>
 #include <QDial>
 #include <QPlainTextEdit>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -146,7 +148,8 @@ struct DesignerCore
         QDesignerComponents::initializeResources();
         core = QDesignerComponents::createFormEditor(nullptr);
         core->setTopLevel(&top);
-        top.menuBar()->addMenu(QStringLiteral("&Help"));   // as Designer's main window has it
+        top.menuBar()->addMenu(QStringLiteral("&Settings"));   // as Designer's main window has them
+        top.menuBar()->addMenu(QStringLiteral("&Help"));
         new QDesignerIntegration(core, &top);
         QDesignerComponents::initializePlugins(core);
         QDesignerComponents::createTaskMenu(core, &top);
@@ -735,6 +738,27 @@ private slots:
         index->trigger();
         QCOMPARE(requests.size(), 1);
         QCOMPARE(requests[0].page, QStringLiteral("index.html"));
+        // The search paths: a help folder added in the editor is where the
+        // help is looked for at once, and it is kept in Designer's settings.
+        QTemporaryDir own;
+        QVERIFY(QDir(own.path()).mkpath(QStringLiteral("html")));
+        QFile ownIndex(own.filePath(QStringLiteral("html/index.html")));
+        QVERIFY(ownIndex.open(QIODevice::WriteOnly));
+        ownIndex.close();
+        QAction *paths = d->top.menuBar()->findChild<QAction *>("qcolSearchPaths");
+        QVERIFY(paths);
+        paths->trigger();
+        auto *editor = d->top.findChild<TSearchPathsDialog *>();
+        QVERIFY(editor && editor->isVisible());
+        editor->List(QStringLiteral("Help"))->addItem(own.path());
+        editor->List(QStringLiteral("Pictures"))->addItem(QDir::tempPath());
+        editor->accept();
+        QCOMPARE(HelpDirectory(), own.path());
+        QCOMPARE(LoadSearchPaths(d->core).Help, QStringList{own.path()});
+        QCOMPARE(LoadSearchPaths(d->core).Pictures, QStringList{QDir::tempPath()});
+        SetSearchPaths({});
+        SaveSearchPaths(d->core, {});
+        QVERIFY(HelpDirectory() != own.path());
         // No viewer: the user is told, nothing else happens.
         SetHelpViewer([](const THelpRequest &) { return false; });
         QVERIFY(!ShowHelpTopic(13, &d->top));

@@ -4,6 +4,7 @@
 #include "componentregistry.h"
 #include "helpviewer.h"
 #include "propertysheet.h"
+#include "searchpaths.h"
 #include "taskmenu.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
@@ -49,29 +50,50 @@ QWidget *TDesignerWidget::createWidget(QWidget *parent)
 
 namespace {
 
-// "QuovarCollection Help" in Designer's Help menu, opening the help's
-// index. Designer may build its menus after the plugins: tried again once
-// the event loop runs.
-bool addHelpEntry(QDesignerFormEditorInterface *core)
+// Designer's menu of that title (without its '&'), wherever its menu bar is.
+QMenu *designerMenu(QDesignerFormEditorInterface *core, const QString &title)
 {
     QWidgetList roots = QApplication::topLevelWidgets();
     if (core->topLevel())
         roots.prepend(core->topLevel());
     for (QWidget *root : roots)
         for (QMenuBar *bar : root->findChildren<QMenuBar *>())
-            for (QAction *entry : bar->actions()) {
-                QMenu *menu = entry->menu();
-                if (!menu || menu->title().remove(QLatin1Char('&')) != QLatin1String("Help"))
-                    continue;
-                if (!menu->findChild<QAction *>(QStringLiteral("qcolHelpIndex"))) {
-                    auto *help = new QAction(QStringLiteral("QuovarCollection Help"), menu);
-                    help->setObjectName(QStringLiteral("qcolHelpIndex"));
-                    QObject::connect(help, &QAction::triggered, menu, [menu] { ShowHelpIndex(menu->window()); });
-                    menu->addAction(help);
-                }
-                return true;
-            }
-    return false;
+            for (QAction *entry : bar->actions())
+                if (QMenu *menu = entry->menu(); menu && menu->title().remove(QLatin1Char('&')) == title)
+                    return menu;
+    return nullptr;
+}
+
+// The two experts: "QuovarCollection Help" in Designer's Help menu opens
+// the help's index; "QuovarCollection Search Paths..." in its Settings menu
+// edits where the collection looks. Designer may build its menus after the
+// plugins: tried again once the event loop runs.
+bool addExperts(QDesignerFormEditorInterface *core)
+{
+    QMenu *help = designerMenu(core, QStringLiteral("Help"));
+    QMenu *settings = designerMenu(core, QStringLiteral("Settings"));
+    if (help && !help->findChild<QAction *>(QStringLiteral("qcolHelpIndex"))) {
+        auto *action = new QAction(QStringLiteral("QuovarCollection Help"), help);
+        action->setObjectName(QStringLiteral("qcolHelpIndex"));
+        QObject::connect(action, &QAction::triggered, help, [help] { ShowHelpIndex(help->window()); });
+        help->addAction(action);
+    }
+    if (settings && !settings->findChild<QAction *>(QStringLiteral("qcolSearchPaths"))) {
+        auto *action = new QAction(QStringLiteral("QuovarCollection Search Paths..."), settings);
+        action->setObjectName(QStringLiteral("qcolSearchPaths"));
+        QPointer<QDesignerFormEditorInterface> guard = core;
+        QObject::connect(action, &QAction::triggered, settings, [settings, guard] {
+            auto *dialog = new TSearchPathsDialog(SearchPaths(), settings->window());
+            dialog->setAttribute(Qt::WA_DeleteOnClose);
+            QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, guard] {
+                SetSearchPaths(dialog->Paths());
+                SaveSearchPaths(guard, dialog->Paths());
+            });
+            dialog->open();
+        });
+        settings->addAction(action);
+    }
+    return help && settings;
 }
 
 } // namespace
@@ -81,8 +103,9 @@ void TDesignerWidget::initialize(QDesignerFormEditorInterface *core)
     if (FCore == core)
         return;
     FCore = core;
-    if (!addHelpEntry(core))
-        QTimer::singleShot(0, core, [core] { addHelpEntry(core); });
+    SetSearchPaths(LoadSearchPaths(core));
+    if (!addExperts(core))
+        QTimer::singleShot(0, core, [core] { addExperts(core); });
     // One pair of factories for each Designer core, however many of the
     // collection's widgets it initialises.
     QExtensionManager *manager = core->extensionManager();

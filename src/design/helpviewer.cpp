@@ -1,6 +1,7 @@
 #include "helpviewer.h"
 
 #include "componentregistry.h"
+#include "searchpaths.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -117,7 +118,7 @@ QString HelpPageOf(const TComponentEntry &entry)
 
 QString HelpDirectory()
 {
-    QStringList candidates;
+    QStringList candidates = SearchPaths().Help;
     const QString env = qEnvironmentVariable("QCOL_HELP_DIR");
     if (!env.isEmpty())
         candidates << env;

@@ -21,8 +21,9 @@ QString HelpPage(int context);
 // The page of a component's own help: its class name in lower case.
 QString HelpPageOf(const TComponentEntry &entry);
 
-// The folder that holds qcol.qhc, qcol.qch and html/: $QCOL_HELP_DIR, then
-// the installed help, then the help of the build tree. Empty if none has it.
+// The folder that holds qcol.qhc, qcol.qch and html/: the help folders of
+// the search paths in their order, $QCOL_HELP_DIR, the installed help, then
+// the help of the build tree. Empty if none has it.
 QString HelpDirectory();
 
 struct THelpRequest

@@ -1,5 +1,7 @@
 #include "qbitmapeditor.h"
 
+#include "searchpaths.h"
+
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -52,7 +54,8 @@ TqBitmapEditor::TqBitmapEditor(const QPixmap &picture, const QString &fileName, 
         for (const QByteArray &format : QImageReader::supportedImageFormats())
             patterns << QStringLiteral("*.") + QString::fromLatin1(format);
         const QString file = QFileDialog::getOpenFileName(
-            this, QStringLiteral("Load a bitmap"), FFileName,
+            this, QStringLiteral("Load a bitmap"),
+            FFileName.isEmpty() && !SearchPaths().Pictures.isEmpty() ? SearchPaths().Pictures.first() : FFileName,
             QStringLiteral("Pictures (%1);;All files (*)").arg(patterns.join(QLatin1Char(' '))));
         if (!file.isEmpty())
             Load(file);
