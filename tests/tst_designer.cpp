@@ -46,6 +46,7 @@
 #include <QMetaProperty>
 #include <QPluginLoader>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <QUndoStack>
 #include <QUiLoader>
@@ -598,6 +599,7 @@ private slots:
         const auto pick = [&](int style, bool ok) {
             auto *editor = openEditor<TqGaugeEditor>(gauge);
             QVERIFY(editor && editor->isVisible());
+            QVERIFY(editor->width() > editor->fontMetrics().horizontalAdvance(editor->windowTitle()) + 100);
             QCOMPARE(editor->CaptionStyle(), int(gauge->CaptionStyle()));   // opens on the current style
             QTest::mouseClick(editor->findChildren<QRadioButton *>().at(style), Qt::LeftButton);
             ok ? editor->accept() : editor->reject();
@@ -617,6 +619,10 @@ private slots:
         auto *editor = openEditor<TqShapeBtnEditor>(button);
         QVERIFY(editor);
         QCOMPARE(editor->Shape(), int(TqShapeBtn::sbRectangle));
+        QVERIFY(QTest::qWaitForWindowExposed(editor));
+        auto *shapes = editor->findChild<QListWidget *>();
+        QVERIFY(!shapes->verticalScrollBar()->isVisible());   // all thirteen in view
+        QVERIFY(shapes->viewport()->rect().contains(shapes->visualItemRect(shapes->item(shapes->count() - 1))));
         editor->SetShape(TqShapeBtn::sbPlus);
         editor->accept();
         QCOMPARE(button->Shape(), TqShapeBtn::sbPlus);

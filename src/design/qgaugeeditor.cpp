@@ -30,6 +30,8 @@ TqGaugeEditor::TqGaugeEditor(int captionStyle, QWidget *parent) : QDialog(parent
     connect(ok, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(ok, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(ok);
+    // Wide enough that the window manager shows the whole title.
+    setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + 160);
     SetCaptionStyle(captionStyle);
 }
 

@@ -18,7 +18,10 @@ TqShapeBtnEditor::TqShapeBtnEditor(int shape, QWidget *parent) : QDialog(parent)
     FList->setIconSize(QSize(40, 40));
     FList->setGridSize(QSize(110, 70));
     FList->setMovement(QListView::Static);
-    FList->setMinimumSize(QSize(5 * 112, 3 * 72 + 8));
+    // Every shape in view at once, five to a row, without scrolling.
+    FList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int frame = 2 * FList->frameWidth() + 2 * FList->spacing() + 24;
+    FList->setMinimumSize(QSize(5 * 110 + frame, 3 * 70 + frame));
     const QMetaEnum shapes = QMetaEnum::fromType<TqShapeBtn::sbType>();
     for (int i = 0; i < shapes.keyCount(); ++i) {
         TqShapeBtn sample;
