@@ -33,6 +33,7 @@
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
 #include "ui_panel.h"
+#include "ui_resource.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
@@ -548,6 +549,32 @@ private slots:
     }
 
     // Greyed in Designer's own property editor, and refused when set.
+    // Pictures from the application's resources, as Designer's resource
+    // browser gives them: kept through Designer, loaded by QUiLoader and
+    // compiled by uic.
+    void picturesFromResources()
+    {
+        QFile file(QStringLiteral(QC_SOURCE_DIR "/tests/data/resource.ui"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray xml = file.readAll();
+        d->form->setFileName(file.fileName());   // where the form's resource file is found
+        QVERIFY(d->form->setContents(QString::fromUtf8(xml)));
+        auto *designed = d->form->mainContainer()->findChild<TqBitmap *>("picture");
+        QVERIFY(designed);
+        QCOMPARE(designed->Bitmap().size(), QSize(6, 4));
+        QVERIFY(d->form->contents().contains(QLatin1String(":/gauges/needle.png</pixmap>")));
+        for (const std::unique_ptr<QWidget> &loaded : {reloaded(), loadForm(xml)}) {
+            QCOMPARE(loaded->findChild<TqBitmap *>("picture")->Bitmap().size(), QSize(6, 4));
+            QCOMPARE(loaded->findChild<TqBitColBtn *>("button")->Glyph().size(), QSize(6, 4));
+        }
+        QWidget compiled;
+        Ui::ResourceForm ui;
+        ui.setupUi(&compiled);
+        QCOMPARE(ui.picture->Bitmap().size(), QSize(6, 4));
+        QCOMPARE(ui.button->Glyph().size(), QSize(6, 4));
+        d->form->setFileName(QString());
+    }
+
     void calculatorResultsAreReadOnly()
     {
         auto *calc = designOne<TqCalc>("calc");
