@@ -1,8 +1,9 @@
 #include "colorsdialog.h"
 
+#include "okcancel.h"
+
 #include <QColorDialog>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QMetaProperty>
@@ -58,9 +59,7 @@ TColorsDialog::TColorsDialog(QWidget *component, QWidget *parent) : QDialog(pare
             }
         });
     }
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *buttons = OkCancelButtons(this);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(buttons);

@@ -1,7 +1,8 @@
 #include "qangleeditor.h"
 
+#include "okcancel.h"
+
 #include <QDial>
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QSpinBox>
@@ -44,9 +45,7 @@ TqAngleEditor::TqAngleEditor(TqAngle angle, const TqAngleLabel *label, QWidget *
     row->addWidget(previewArea);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(row);
-    auto *ok = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(ok, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(ok, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *ok = OkCancelButtons(this);
     layout->addWidget(ok);
 
     connect(FDial, &QDial::valueChanged, this, [this](int value) { SetAngle(AngleOfDial(value)); });

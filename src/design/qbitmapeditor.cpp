@@ -1,8 +1,9 @@
 #include "qbitmapeditor.h"
 
+#include "okcancel.h"
+
 #include "searchpaths.h"
 
-#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QImageReader>
@@ -61,9 +62,7 @@ TqBitmapEditor::TqBitmapEditor(const QPixmap &picture, const QString &fileName, 
             Load(file);
     });
     connect(clear, &QPushButton::clicked, this, &TqBitmapEditor::Clear);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *buttons = OkCancelButtons(this);
     auto *side = new QVBoxLayout;
     side->addWidget(load);
     side->addWidget(clear);

@@ -1,7 +1,8 @@
 #include "qgaugeeditor.h"
 
+#include "okcancel.h"
+
 #include <QButtonGroup>
-#include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -26,9 +27,7 @@ TqGaugeEditor::TqGaugeEditor(int captionStyle, QWidget *parent) : QDialog(parent
         buttons->addWidget(radio);
     }
     layout->addWidget(box);
-    auto *ok = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(ok, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(ok, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *ok = OkCancelButtons(this);
     layout->addWidget(ok);
     // Wide enough that the window manager shows the whole title.
     setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + 160);

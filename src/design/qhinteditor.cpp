@@ -1,6 +1,7 @@
 #include "qhinteditor.h"
 
-#include <QDialogButtonBox>
+#include "okcancel.h"
+
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
@@ -18,9 +19,7 @@ TqHintEditor::TqHintEditor(const QString &hint, QWidget *parent) : QDialog(paren
     FEdit->setMinimumSize(320, 140);
     FEdit->setTabChangesFocus(true);
     layout->addWidget(FEdit);
-    auto *ok = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(ok, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(ok, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *ok = OkCancelButtons(this);
     layout->addWidget(ok);
 }
 

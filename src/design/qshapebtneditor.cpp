@@ -1,8 +1,9 @@
 #include "qshapebtneditor.h"
 
+#include "okcancel.h"
+
 #include "buttons/qshapebtn.h"
 
-#include <QDialogButtonBox>
 #include <QListWidget>
 #include <QMetaEnum>
 #include <QPixmap>
@@ -32,9 +33,7 @@ TqShapeBtnEditor::TqShapeBtnEditor(int shape, QWidget *parent) : QDialog(parent)
         item->setData(Qt::UserRole, shapes.value(i));
     }
     layout->addWidget(FList);
-    auto *ok = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(ok, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(ok, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *ok = OkCancelButtons(this);
     connect(FList, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
     layout->addWidget(ok);
     SetShape(shape);

@@ -1,10 +1,11 @@
 #include "searchpaths.h"
 
+#include "okcancel.h"
+
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerSettingsInterface>
 
 #include <QCoreApplication>
-#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
@@ -110,9 +111,7 @@ TSearchPathsDialog::TSearchPathsDialog(const TSearchPaths &paths, QWidget *paren
         buttons->addStretch();
         grid->addLayout(buttons, 2 * k + 1, 1);
     }
-    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *box = OkCancelButtons(this);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(grid);
     layout->addWidget(box);
