@@ -14,6 +14,7 @@
 #include "indicators/qgauge.h"
 #include "indicators/qled.h"
 #include "layout/qsplit.h"
+#include "layout/qtablistbox.h"
 #include "labels/labels.h"
 #include "services/mystd.h"
 #include "services/std2.h"
@@ -546,6 +547,21 @@ private slots:
         auto *label = designOne<TqBigLabel>("big");
         d->form->cursor()->setWidgetProperty(label, QStringLiteral("Caption"), QStringLiteral("Volts"));
         QVERIFY(d->form->contents().contains(QLatin1String("<string>Volts</string>")));
+    }
+
+    // A form whose stored value a component refuses still loads, through
+    // QUiLoader and Designer alike: the value is reported, never thrown
+    // through Qt.
+    void refusedValuesFromAFormAreReported()
+    {
+        const QString list = QStringLiteral("<widget class=\"TqTabListbox\" name=\"list\"><property name=\"TabStops\">"
+                                            "<string>60 30</string></property></widget>");
+        QTest::ignoreMessage(QtCriticalMsg, "Tab stops must ascend: 30 follows 60");
+        const std::unique_ptr<QWidget> loaded = loadForm(formXml(list).toUtf8());
+        QVERIFY(loaded && loaded->findChild<TqTabListbox *>("list"));
+        QVERIFY(loaded->findChild<TqTabListbox *>("list")->TabStops().isEmpty());
+        QTest::ignoreMessage(QtCriticalMsg, "Tab stops must ascend: 30 follows 60");
+        QVERIFY(design<TqTabListbox>(list, "list"));
     }
 
     // Greyed in Designer's own property editor, and refused when set.

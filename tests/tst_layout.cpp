@@ -1,4 +1,5 @@
 // Splitter panels, the move panel and the tabbed list box.
+#include "host/tapplication.h"
 #include "layout/qsplit.h"
 #include "layout/qtablistbox.h"
 #include "services/mystd.h"
@@ -217,6 +218,18 @@ private slots:
         TqTabListbox box;
         box.SetTabStops(QStringLiteral("30 60"));
         QVERIFY_THROWS_EXCEPTION(EqTabListboxError, box.SetTabStops(QStringLiteral("60 30")));
+        QCOMPARE(box.Tabs(), (QList<int>{30, 60}));
+        // Through the property, as a form loader sets it: no exception
+        // crosses Qt; the application is told and the stops stay.
+        QStringList errors;
+        QObject context;
+        connect(Application(), &TApplication::OnException, &context,
+                [&](QObject *sender, const std::exception &e) {
+                    QCOMPARE(sender, &box);
+                    errors << QString::fromUtf8(e.what());
+                });
+        QVERIFY(box.setProperty("TabStops", QStringLiteral("60 30")));
+        QCOMPARE(errors, QStringList{"Tab stops must ascend: 30 follows 60"});
         QCOMPARE(box.Tabs(), (QList<int>{30, 60}));
         // In the designer the message is shown instead and nothing changes.
         box.SetDesigning(true);

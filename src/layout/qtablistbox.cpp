@@ -174,6 +174,15 @@ void TqTabListbox::SetTabStops(const QString &stops)
     viewport()->update();
 }
 
+void TqTabListbox::writeTabStops(const QString &stops)
+{
+    try {
+        SetTabStops(stops);
+    } catch (const EqTabListboxError &e) {
+        Application()->HandleException(this, e);
+    }
+}
+
 void TqTabListbox::SetTabs(const QList<int> &stops)
 {
     QStringList words;

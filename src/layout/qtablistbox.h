@@ -47,7 +47,7 @@ class TqTabListbox : public QListView, public TComponentCore
     Q_OBJECT
     Q_PROPERTY(QStringList Items READ Items WRITE SetItems)
     Q_PROPERTY(int ItemIndex READ ItemIndex WRITE SetItemIndex)
-    Q_PROPERTY(QString TabStops READ TabStops WRITE SetTabStops)
+    Q_PROPERTY(QString TabStops READ TabStops WRITE writeTabStops)
     Q_PROPERTY(TTabUnits TabUnits READ TabUnits WRITE SetTabUnits)
     Q_PROPERTY(bool MultiSelect READ MultiSelect WRITE SetMultiSelect)
     Q_PROPERTY(TColor Color READ Color WRITE SetColor)
@@ -68,6 +68,7 @@ public:
     int Count() const;
     void SetItemIndex(int index);
     QString TabStops() const { return FTabStops; }
+    // Raises EqTabListboxError for bad stops (shown instead in the designer).
     void SetTabStops(const QString &stops);
     // The stops as numbers in TabUnits.
     QList<int> Tabs() const { return FTabs; }
@@ -104,6 +105,10 @@ private:
     QList<int> rowColumns(const QStringList &parts, const QFontMetrics &metrics) const;
 
     QStringListModel *FModel;
+    // The property's setter, as a form loader or setProperty calls it:
+    // bad stops go to the application's OnException and the old ones stay,
+    // since no exception may cross Qt's frames.
+    void writeTabStops(const QString &stops);
     QString FTabStops;
     QList<int> FTabs;
     TTabUnits FUnits = tuPixels;
