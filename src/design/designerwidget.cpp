@@ -20,6 +20,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 TDesignerWidget::TDesignerWidget(const TComponentEntry &entry, QObject *parent) : QObject(parent), FEntry(entry) {}
@@ -64,6 +65,17 @@ QMenu *designerMenu(QDesignerFormEditorInterface *core, const QString &title)
     return nullptr;
 }
 
+// An entry of the collection's in one of Designer's menus, added once.
+void addEntry(QMenu *menu, const char *name, const QString &text, std::function<void()> run)
+{
+    if (!menu || menu->findChild<QAction *>(QLatin1String(name)))
+        return;
+    auto *action = new QAction(text, menu);
+    action->setObjectName(QLatin1String(name));
+    QObject::connect(action, &QAction::triggered, menu, std::move(run));
+    menu->addAction(action);
+}
+
 // The two experts: "QuovarCollection Help" in Designer's Help menu opens
 // the help's index; "QuovarCollection Search Paths..." in its Settings menu
 // edits where the collection looks. Designer may build its menus after the
@@ -72,27 +84,17 @@ bool addExperts(QDesignerFormEditorInterface *core)
 {
     QMenu *help = designerMenu(core, QStringLiteral("Help"));
     QMenu *settings = designerMenu(core, QStringLiteral("Settings"));
-    if (help && !help->findChild<QAction *>(QStringLiteral("qcolHelpIndex"))) {
-        auto *action = new QAction(QStringLiteral("QuovarCollection Help"), help);
-        action->setObjectName(QStringLiteral("qcolHelpIndex"));
-        QObject::connect(action, &QAction::triggered, help, [help] { ShowHelpIndex(help->window()); });
-        help->addAction(action);
-    }
-    if (settings && !settings->findChild<QAction *>(QStringLiteral("qcolSearchPaths"))) {
-        auto *action = new QAction(QStringLiteral("QuovarCollection Search Paths..."), settings);
-        action->setObjectName(QStringLiteral("qcolSearchPaths"));
-        QPointer<QDesignerFormEditorInterface> guard = core;
-        QObject::connect(action, &QAction::triggered, settings, [settings, guard] {
-            auto *dialog = new TSearchPathsDialog(SearchPaths(), settings->window());
-            dialog->setAttribute(Qt::WA_DeleteOnClose);
-            QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, guard] {
-                SetSearchPaths(dialog->Paths());
-                SaveSearchPaths(guard, dialog->Paths());
-            });
-            dialog->open();
+    addEntry(help, "qcolHelpIndex", QStringLiteral("QuovarCollection Help"), [help] { ShowHelpIndex(help->window()); });
+    QPointer<QDesignerFormEditorInterface> guard = core;
+    addEntry(settings, "qcolSearchPaths", QStringLiteral("QuovarCollection Search Paths..."), [settings, guard] {
+        auto *dialog = new TSearchPathsDialog(SearchPaths(), settings->window());
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, guard] {
+            SetSearchPaths(dialog->Paths());
+            SaveSearchPaths(guard, dialog->Paths());
         });
-        settings->addAction(action);
-    }
+        dialog->open();
+    });
     return help && settings;
 }
 
@@ -103,16 +105,16 @@ void TDesignerWidget::initialize(QDesignerFormEditorInterface *core)
     if (FCore == core)
         return;
     FCore = core;
-    SetSearchPaths(LoadSearchPaths(core));
-    if (!addExperts(core))
-        QTimer::singleShot(0, core, [core] { addExperts(core); });
-    // One pair of factories for each Designer core, however many of the
-    // collection's widgets it initialises.
+    // Once for each Designer core, however many of the collection's widgets
+    // it initialises: the pair of factories, the search paths, the experts.
     QExtensionManager *manager = core->extensionManager();
     if (!manager || manager->findChild<TTaskMenuFactory *>())
         return;
     manager->registerExtensions(new TTaskMenuFactory(manager), Q_TYPEID(QDesignerTaskMenuExtension));
     TPropertySheetFactory::Register(manager);
+    SetSearchPaths(LoadSearchPaths(core));
+    if (!addExperts(core))
+        QTimer::singleShot(0, core, [core] { addExperts(core); });
 }
 
 // How Designer edits and stores the component's text properties: only the
