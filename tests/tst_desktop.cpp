@@ -34,10 +34,16 @@ void userDrag(QPoint from, QPoint to, const QString &button = QStringLiteral("1"
         xdo({"keyup", "alt"});
 }
 
+// A property of the form's window as the X server has it.
+QString windowProperty(QWidget *form, const char *property)
+{
+    return runTool("xprop", {"-id", QString::number(form->winId()), QLatin1String(property)});
+}
+
 // The frame the window manager says it drew: left, right, top, bottom.
 QList<int> frameExtents(QWidget *form)
 {
-    const QString extents = runTool("xprop", {"-id", QString::number(form->winId()), "_NET_FRAME_EXTENTS"});
+    const QString extents = windowProperty(form, "_NET_FRAME_EXTENTS");
     const QRegularExpressionMatch m = QRegularExpression(QStringLiteral("= (\\d+), (\\d+), (\\d+), (\\d+)")).match(extents);
     if (!m.hasMatch())
         return {};
@@ -47,7 +53,7 @@ QList<int> frameExtents(QWidget *form)
 // Maximised as Qt and the window manager both have it.
 bool maximisedByTheWindowManager(QWidget *form)
 {
-    const QString state = runTool("xprop", {"-id", QString::number(form->winId()), "_NET_WM_STATE"});
+    const QString state = windowProperty(form, "_NET_WM_STATE");
     return form->isMaximized() && state.contains(QLatin1String("_NET_WM_STATE_MAXIMIZED_VERT"))
         && state.contains(QLatin1String("_NET_WM_STATE_MAXIMIZED_HORZ"));
 }

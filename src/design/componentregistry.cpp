@@ -42,17 +42,18 @@ QPixmap samplePicture(int w, int h)
     return QPixmap::fromImage(image);
 }
 
-// A riveted steel plate, for the tile maps.
-QPixmap sampleTile()
+// A riveted metal plate, for the tile maps: its face, its seams and its
+// rivet.
+QPixmap sampleTile(QRgb face, QRgb seam, QRgb rivet)
 {
     QImage image(12, 12, QImage::Format_RGB32);
-    image.fill(qRgb(150, 150, 160));
+    image.fill(face);
     QPainter p(&image);
-    p.setPen(QColor(90, 90, 100));
+    p.setPen(QColor(seam));
     p.drawLine(0, 11, 11, 11);
     p.drawLine(11, 0, 11, 11);
     p.setPen(Qt::NoPen);
-    p.setBrush(QColor(60, 60, 70));
+    p.setBrush(QColor(rivet));
     p.drawEllipse(QPoint(5, 5), 2, 2);
     return QPixmap::fromImage(image);
 }
@@ -84,29 +85,27 @@ void poseAnimated(QWidget *w)
     animated->SetFrame(1);
 }
 
+// Steel for the windowed map; the twin without a window (below) in bronze.
 template <class Map>
-void poseTileMap(QWidget *w)
+void poseTileMap(QWidget *w, const QPixmap &tile)
 {
     auto *map = static_cast<Map *>(w);
     map->SetBounds(0, 0, 48, 36);
-    map->SetBitmap(sampleTile());
+    map->SetBitmap(tile);
+}
+
+void poseSteelTileMap(QWidget *w)
+{
+    poseTileMap<TqTileMap>(w, sampleTile(qRgb(150, 150, 160), qRgb(90, 90, 100), qRgb(60, 60, 70)));
 }
 
 // The twins without a window of their own: the blend across, the plate
 // of another metal, the button named so.
 void poseNWBlendPaint(QWidget *w) { static_cast<TqNWBlendPaint *>(w)->SetGrad(gHorz); }
 
-void poseNWTileMap(QWidget *w)
+void poseBronzeTileMap(QWidget *w)
 {
-    auto *map = static_cast<TqNWTileMap *>(w);
-    map->SetBounds(0, 0, 48, 36);
-    QImage tile = sampleTile().toImage();
-    for (int y = 0; y < tile.height(); ++y)
-        for (int x = 0; x < tile.width(); ++x) {
-            const QRgb p = tile.pixel(x, y);
-            tile.setPixel(x, y, qRgb(qRed(p) + 60 > 255 ? 255 : qRed(p) + 60, qGreen(p), qBlue(p) / 2));
-        }
-    map->SetBitmap(QPixmap::fromImage(tile));
+    poseTileMap<TqNWTileMap>(w, sampleTile(qRgb(210, 150, 80), qRgb(150, 90, 50), qRgb(120, 60, 35)));
 }
 
 void posePeakOmeter(QWidget *w)
@@ -137,16 +136,6 @@ void poseDivider(QWidget *w)
     divider->SetCaption(QStringLiteral("Div"));
 }
 
-void poseMovePanel(QWidget *w)
-{
-    auto *panel = static_cast<TqMovePanel *>(w);
-    panel->SetBounds(0, 0, 48, 36);
-    panel->SetCaption(QStringLiteral("+"));
-    QFont f = panel->Font();
-    f.setPixelSize(24);
-    f.setBold(true);
-    panel->SetFont(f);
-}
 
 template <class Split>
 void poseSplit(QWidget *w)
@@ -157,19 +146,26 @@ void poseSplit(QWidget *w)
     split->GoMedium();
 }
 
-template <class Label>
-void poseCaption(QWidget *w, const char *caption)
+// A short caption in a large bold font.
+template <class Control>
+void poseCaption(QWidget *w, const char *caption, int pixels)
 {
-    auto *label = static_cast<Label *>(w);
-    QFont f = label->Font();
-    f.setPixelSize(20);
+    auto *control = static_cast<Control *>(w);
+    QFont f = control->Font();
+    f.setPixelSize(pixels);
     f.setBold(true);
-    label->SetFont(f);
-    label->SetCaption(QString::fromLatin1(caption));
+    control->SetFont(f);
+    control->SetCaption(QString::fromLatin1(caption));
 }
 
-void pose3DLabel(QWidget *w) { poseCaption<Tq3DLabel>(w, "3D"); }
-void poseMouseSpot(QWidget *w) { poseCaption<TqMouseSpot>(w, "Go"); }
+void pose3DLabel(QWidget *w) { poseCaption<Tq3DLabel>(w, "3D", 20); }
+void poseMouseSpot(QWidget *w) { poseCaption<TqMouseSpot>(w, "Go", 20); }
+
+void poseMovePanel(QWidget *w)
+{
+    static_cast<TqMovePanel *>(w)->SetBounds(0, 0, 48, 36);
+    poseCaption<TqMovePanel>(w, "+", 24);
+}
 
 // A tick, for the glyph buttons.
 QPixmap sampleGlyph(TColor color)
@@ -183,24 +179,23 @@ QPixmap sampleGlyph(TColor color)
     return QPixmap::fromImage(image);
 }
 
+// The tick as the button's icon or bitmap glyph, whichever it has.
 template <class Button>
-void poseGlyphButton(QWidget *w, const char *caption, TColor color, bool icon)
+void poseGlyphButton(QWidget *w, const char *caption, TColor color)
 {
     auto *b = static_cast<Button *>(w);
     b->SetBounds(0, 0, 60, 30);
     b->SetCaption(QString::fromLatin1(caption));
-    if constexpr (std::is_base_of_v<TqIconColBtn, Button> || std::is_base_of_v<TqNWIconColBtn, Button>) {
-        Q_UNUSED(icon);
+    if constexpr (std::is_base_of_v<TqIconColBtn, Button> || std::is_base_of_v<TqNWIconColBtn, Button>)
         b->SetIcon(QIcon(sampleGlyph(color)));
-    } else {
+    else
         b->SetGlyph(sampleGlyph(color));
-    }
 }
 
-void poseBitColBtn(QWidget *w) { poseGlyphButton<TqBitColBtn>(w, "Bit", clGreen, false); }
-void poseIconColBtn(QWidget *w) { poseGlyphButton<TqIconColBtn>(w, "Icon", clBlue, true); }
-void poseNWBitColBtn(QWidget *w) { poseGlyphButton<TqNWBitColBtn>(w, "NW", clGreen, false); }
-void poseNWIconColBtn(QWidget *w) { poseGlyphButton<TqNWIconColBtn>(w, "NW", clBlue, true); }
+void poseBitColBtn(QWidget *w) { poseGlyphButton<TqBitColBtn>(w, "Bit", clGreen); }
+void poseIconColBtn(QWidget *w) { poseGlyphButton<TqIconColBtn>(w, "Icon", clBlue); }
+void poseNWBitColBtn(QWidget *w) { poseGlyphButton<TqNWBitColBtn>(w, "NW", clGreen); }
+void poseNWIconColBtn(QWidget *w) { poseGlyphButton<TqNWIconColBtn>(w, "NW", clBlue); }
 
 void poseSegment(QWidget *w) { static_cast<TqSegment *>(w)->SetChar('8'); }
 void poseDotSegment(QWidget *w) { static_cast<TqcDotSegment *>(w)->SetChar('A'); }
@@ -363,11 +358,11 @@ const std::vector<TComponentEntry> kComponents = {
      make<TqNWBlendPaint>, poseNWBlendPaint, true},
     {"TqTileMap", "backgrounds/blend.h", 0, 10, "Tile map",
      "A control tiled with a bitmap from its top-left corner.",
-     make<TqTileMap>, poseTileMap<TqTileMap>, true},
+     make<TqTileMap>, poseSteelTileMap, true},
     {"TqNWTileMap", "backgrounds/blend.h", 0, 42, "Tile map without a window",
      "The tile map without a window of its own; with PassMouseOn the mouse goes through it to "
      "what lies beneath.",
-     make<TqNWTileMap>, poseNWTileMap, true},
+     make<TqNWTileMap>, poseBronzeTileMap, true},
     {"TqLed", "indicators/qled.h", 0, 11, "LED lamp",
      "A round or square LED in eight colours, lit or unlit, with a grey bezel, optionally "
      "on the steel texture; it can blink by itself.",

@@ -37,6 +37,34 @@ QString assistantProgram()
     return QString();
 }
 
+// One Assistant for all the pages: started once with its remote control
+// on, then told each page on its standard input; it goes with the program
+// that opened it. Null when it cannot be started.
+QProcess *assistantProcess(const QString &program, const QString &collection)
+{
+    static QPointer<QProcess> running;
+    if (running && running->state() != QProcess::NotRunning)
+        return running;
+    delete running;
+    running = new QProcess(qApp);
+    running->setProcessChannelMode(QProcess::ForwardedChannels);
+    QObject::connect(running, &QProcess::finished, running, &QObject::deleteLater);
+    static const bool endsWithTheProgram = [] {
+        qAddPostRoutine([] {
+            if (running) {
+                running->terminate();
+                running->waitForFinished(3000);
+            }
+        });
+        return true;
+    }();
+    Q_UNUSED(endsWithTheProgram);
+    running->start(program, {QStringLiteral("-collectionFile"), collection, QStringLiteral("-enableRemoteControl")});
+    if (!running->waitForStarted(10000))
+        delete running;   // the pointer is null again
+    return running;
+}
+
 bool defaultViewer(const THelpRequest &request)
 {
     const QString folder = HelpDirectory();
@@ -47,33 +75,7 @@ bool defaultViewer(const THelpRequest &request)
     const QString assistant = assistantProgram();
     if (QFileInfo::exists(collection) && !assistant.isEmpty()) {
         const QString url = QStringLiteral("qthelp://%1/doc/%2").arg(QLatin1String(kHelpNamespace), request.page);
-        // One Assistant for all the pages: started once with its remote
-        // control on, then told each page on its standard input.
-        static QPointer<QProcess> running;
-        if (!running || running->state() == QProcess::NotRunning) {
-            delete running;
-            running = new QProcess(qApp);
-            running->setProcessChannelMode(QProcess::ForwardedChannels);
-            QObject::connect(running, &QProcess::finished, running, &QObject::deleteLater);
-            // It goes with the program that opened it.
-            static const bool ending = [] {
-                qAddPostRoutine([] {
-                    if (running) {
-                        running->terminate();
-                        running->waitForFinished(3000);
-                    }
-                });
-                return true;
-            }();
-            Q_UNUSED(ending);
-            running->start(assistant, {QStringLiteral("-collectionFile"), collection,
-                                       QStringLiteral("-enableRemoteControl")});
-            if (!running->waitForStarted(10000)) {
-                delete running;
-                running = nullptr;
-            }
-        }
-        if (running) {
+        if (QProcess *running = assistantProcess(assistant, collection)) {
             running->write(QStringLiteral("setSource %1\nshow contents\n").arg(url).toUtf8());
             return true;
         }

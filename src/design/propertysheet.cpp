@@ -26,11 +26,16 @@ TPropertySheet::TPropertySheet(QObject *object, QObject *parent) : QDesignerProp
             FReadOnly.insert(name);
 }
 
-bool TPropertySheet::isColorProperty(int index) const
+QMetaProperty TPropertySheet::declared(int index) const
 {
     const QMetaObject *meta = object()->metaObject();
-    const int p = meta->indexOfProperty(propertyName(index).toLatin1().constData());
-    return p >= 0 && IsColorProperty(meta->property(p));
+    return meta->property(meta->indexOfProperty(propertyName(index).toLatin1().constData()));
+}
+
+bool TPropertySheet::isColorProperty(int index) const
+{
+    const QMetaProperty p = declared(index);
+    return p.isValid() && IsColorProperty(p);
 }
 
 // One row for each thing the user sets: a non-visual component's face has
@@ -43,17 +48,15 @@ bool TPropertySheet::isVisible(int index) const
         return false;
     const QString name = propertyName(index);
     const QMetaObject *meta = object()->metaObject();
-    const int p = meta->indexOfProperty(name.toLatin1().constData());
-    const bool widgets = p >= 0 && p < QWidget::staticMetaObject.propertyCount();
+    const QMetaProperty p = declared(index);
+    const bool widgets = p.isValid() && p.propertyIndex() < QWidget::staticMetaObject.propertyCount();
     if (qobject_cast<TComponent *>(object()))
         return name != QLatin1String("Name")
             && (!widgets || name == QLatin1String("objectName") || name == QLatin1String("geometry"));
     if (widgets)
         return !((name == QLatin1String("toolTip") && meta->indexOfProperty("Hint") >= 0)
                  || (name == QLatin1String("enabled") && meta->indexOfProperty("Enabled") >= 0));
-    if (p >= 0 && !meta->property(p).isStored() && (name == QLatin1String("Width") || name == QLatin1String("Height")))
-        return false;
-    return true;
+    return !(p.isValid() && !p.isStored() && (name == QLatin1String("Width") || name == QLatin1String("Height")));
 }
 
 QVariant TPropertySheet::property(int index) const
@@ -71,10 +74,8 @@ void TPropertySheet::setProperty(int index, const QVariant &value)
         return;
     // A technical text is stored as it is, kept from translators.
     if (value.canConvert<qdesigner_internal::PropertySheetStringValue>() || value.metaType() == QMetaType::fromType<QString>()) {
-        const QMetaObject *meta = object()->metaObject();
-        const int p = meta->indexOfProperty(propertyName(index).toLatin1().constData());
-        if (p >= 0 && meta->property(p).metaType() == QMetaType::fromType<QString>()
-            && !IsTextForReaders(propertyName(index))) {
+        const QMetaProperty p = declared(index);
+        if (p.isValid() && p.metaType() == QMetaType::fromType<QString>() && !IsTextForReaders(propertyName(index))) {
             qdesigner_internal::PropertySheetStringValue text =
                 value.metaType() == QMetaType::fromType<QString>()
                     ? qdesigner_internal::PropertySheetStringValue(value.toString())

@@ -8,6 +8,7 @@
 
 #include <QtDesigner/private/qdesigner_propertysheet_p.h>
 
+#include <QMetaProperty>
 #include <QObject>
 #include <QSet>
 
@@ -34,6 +35,10 @@ public:
     bool isColorProperty(int index) const;
 
 private:
+    // The component's own declaration of the property (invalid for
+    // Designer's fake and dynamic ones).
+    QMetaProperty declared(int index) const;
+
     QSet<QString> FReadOnly;
 };
 

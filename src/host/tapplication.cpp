@@ -110,15 +110,15 @@ TApplication::TApplication()
 }
 
 QString TApplication::Title() const { return QGuiApplication::applicationDisplayName(); }
+void TApplication::SetTitle(const QString &title) { QGuiApplication::setApplicationDisplayName(title); }
+QIcon TApplication::Icon() const { return QApplication::windowIcon(); }
+void TApplication::SetIcon(const QIcon &icon) { QApplication::setWindowIcon(icon); }
+
 void TApplication::SetRestoreStep(QWidget *form, std::function<void()> step)
 {
     FRestoreForm = form;
     FRestoreStep = std::move(step);
 }
-
-void TApplication::SetTitle(const QString &title) { QGuiApplication::setApplicationDisplayName(title); }
-QIcon TApplication::Icon() const { return QApplication::windowIcon(); }
-void TApplication::SetIcon(const QIcon &icon) { QApplication::setWindowIcon(icon); }
 
 void TApplication::SetHint(const QString &hint)
 {

@@ -103,12 +103,12 @@ private:
     void applyColors();
     // Where the parts of a row start, from the left of its text.
     QList<int> rowColumns(const QStringList &parts, const QFontMetrics &metrics) const;
-
-    QStringListModel *FModel;
     // The property's setter, as a form loader or setProperty calls it:
     // bad stops go to the application's OnException and the old ones stay,
     // since no exception may cross Qt's frames.
     void writeTabStops(const QString &stops);
+
+    QStringListModel *FModel;
     QString FTabStops;
     QList<int> FTabs;
     TTabUnits FUnits = tuPixels;

@@ -101,7 +101,7 @@ void TqTitleBar::SetTitleBar(bool show)
             // A tool window keeps its title bar; its height still changes,
             // a fixed size included.
             const QSize size(form->width(), qMax(0, form->height() - TitleBarHeight(form)));
-            if (form->minimumSize() == form->maximumSize())
+            if (style == bsToolWindow)
                 form->setFixedSize(size);
             form->resize(size);
         }
